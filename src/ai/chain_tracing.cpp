@@ -1,0 +1,137 @@
+#include "ai/chain_tracing.h"
+
+#include <array>
+#include <vector>
+
+#include "core/game_state.h"
+#include "core/work_lists.h"
+
+namespace {
+
+// A copy of the board that is made by remembering what differs from it.
+class PlayOut {
+public:
+    // Starts from the board as it stands.
+    void Restart() {
+        for (const int box : TouchedBoxes)
+            AddedSides.at(box) = 0;
+        for (const int line : TouchedLines)
+            IsMarked.at(line) = false;
+        TouchedBoxes.clear();
+        TouchedLines.clear();
+        if (AddedSides.size() != Game.Boxes.size())
+            AddedSides.assign(Game.Boxes.size(), 0);
+        if (IsMarked.size() != Game.Lines.size())
+            IsMarked.assign(Game.Lines.size(), false);
+    }
+
+    int SidesDrawn(int box) const { return Game.Boxes.at(box).SidesDrawn + AddedSides.at(box); }
+
+    bool IsDrawn(int line) const { return Game.Lines.at(line).Drawn != 0 || IsMarked.at(line); }
+
+    void AddSide(int box) {
+        ++AddedSides.at(box);
+        TouchedBoxes.push_back(box);
+    }
+
+    void Mark(int line) {
+        IsMarked.at(line) = true;
+        TouchedLines.push_back(line);
+    }
+
+private:
+    std::vector<int> AddedSides;
+    std::vector<bool> IsMarked;
+    std::vector<int> TouchedBoxes, TouchedLines;
+};
+
+PlayOut playOut;
+
+int FirstUndrawnSide(int box) {
+    for (const Integer side : Game.Boxes.at(box).Sides)
+        if (!playOut.IsDrawn(side))
+            return side;
+    return 0;
+}
+
+std::array<Integer, 2> BoxesBeside(int line) {
+    return {Game.Lines.at(line).FirstBox, Game.Lines.at(line).SecondBox};
+}
+
+void CompleteBoxesBeside(int line) {
+    for (const Integer box : BoxesBeside(line)) {
+        if (box == 0)
+            continue;
+        playOut.AddSide(box);
+        if (playOut.SidesDrawn(box) == 4)
+            Work.ChainBoxes.Append(box);
+    }
+}
+
+// The box that a walk goes on to from `box` over `line`, 0 = none.
+int NextBox(int box, int line) {
+    const auto [first, second] = BoxesBeside(line);
+    if (first != box && first != 0)
+        return first;
+    return second != box ? second : 0;
+}
+
+// Takes box after box, each of which has three sides when it is reached. A first box that `line`
+// itself completes has no side left to draw, and is taken by counting `line`.
+void Walk(int box, int line, CountedList<Integer>& lines) {
+    do {
+        if (const int side = FirstUndrawnSide(box); side != 0) {
+            line = side;
+            lines.Append(ToInteger(line));
+        }
+        playOut.Mark(line);
+        CompleteBoxesBeside(line);
+        box = NextBox(box, line);
+    } while (box != 0 && playOut.SidesDrawn(box) == 3);
+}
+
+bool HasSide(int box, int line) {
+    for (const Integer side : Game.Boxes.at(box).Sides)
+        if (side == line)
+            return true;
+    return false;
+}
+
+} // namespace
+
+void TraceChain(int line) {
+    Work.ChainBoxes.Clear();
+    Work.ChainLines.Clear();
+    Work.ChainTailLines.Clear();
+    playOut.Restart();
+    playOut.Mark(line);
+
+    const auto [first, second] = BoxesBeside(line);
+    if (playOut.SidesDrawn(first) < 3 && playOut.SidesDrawn(second) < 3) {
+        playOut.AddSide(first);
+        playOut.AddSide(second);
+    }
+    if (playOut.SidesDrawn(first) == 3)
+        Walk(first, line, Work.ChainLines);
+    const int secondSides = playOut.SidesDrawn(second);
+    if (secondSides == 3)
+        Walk(second, line, Work.ChainTailLines);
+    else if (secondSides == 4 && Work.ChainLines.Count() > 0 &&
+             HasSide(second, Work.ChainLines.Last()))
+        Work.ChainTailLines.MarkClosedLoop();
+}
+
+bool EveryLineTakesABox(const CountedList<Integer>& lines) {
+    playOut.Restart();
+    for (const Integer line : lines) {
+        bool takes = false;
+        for (const Integer box : BoxesBeside(line)) {
+            playOut.AddSide(box);
+            takes = takes || (box != 0 && playOut.SidesDrawn(box) == 4);
+        }
+        if (!takes || playOut.IsDrawn(line))
+            return false;
+        playOut.Mark(line);
+    }
+    return true;
+}

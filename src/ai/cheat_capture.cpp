@@ -1,0 +1,113 @@
+#include "ai/cheat_capture.h"
+
+#include <algorithm>
+
+#include "ai/capture.h"
+#include "ai/chain_tracing.h"
+#include "core/game_state.h"
+#include "core/work_lists.h"
+
+namespace {
+
+int FirstDrawnSide(int box) {
+    for (const Integer side : Game.Boxes.at(box).Sides)
+        if (Game.Lines.at(side).Drawn != 0)
+            return side;
+    return 0;
+}
+
+bool ChainTouches(int line) {
+    return std::any_of(Work.ChainBoxes.begin(), Work.ChainBoxes.end(), [line](Integer box) {
+        const auto& sides = Game.Boxes.at(box).Sides;
+        return std::find(sides.begin(), sides.end(), line) != sides.end();
+    });
+}
+
+void TakeChainsNotOpenedBy(int lastLine) {
+    for (int box = 1; box <= Game.BoxCount; ++box) {
+        if (Game.Boxes.at(box).SidesDrawn != 3)
+            continue;
+        TraceChain(FirstDrawnSide(box));
+        if (ChainTouches(lastLine))
+            continue;
+        for (const Integer taken : Work.ChainBoxes)
+            if (const int side = FirstUndrawnSide(taken); TakesABox(side))
+                Capture(side);
+    }
+}
+
+// Draws the first `count` of `ChainLines`. A walk that was put in another order than it was found
+// may meet a junction: then it stops before the line that takes nothing and returns false.
+bool CaptureFirst(int count) {
+    for (int position = 1; position <= count; ++position) {
+        const Integer line = Work.ChainLines.at(position);
+        if (!TakesABox(line))
+            return false;
+        Capture(line);
+    }
+    return true;
+}
+
+// Draws the first `count` of `ChainLines` and chooses the one at `choice`.
+void CaptureThenChoose(int count, int choice) {
+    Game.ChosenLine = CaptureFirst(count) ? Work.ChainLines.at(choice) : Integer{0};
+}
+
+// Joins both walks in `ChainLines`, the shorter one first, so that what is declined lies at the end
+// of the longer. A closed loop has but one. A shorter walk that only takes boxes once the longer
+// one has passed stays behind it.
+void JoinWalks() {
+    const Integer tailCount = Work.ChainTailLines.Count();
+    if (tailCount > 0 && Work.ChainLines.Count() > tailCount &&
+        EveryLineTakesABox(Work.ChainTailLines))
+        std::swap(Work.ChainLines, Work.ChainTailLines);
+    Work.ChainLines.Append(Work.ChainTailLines);
+}
+
+void TakeOrDecline(bool isLoop) {
+    const int count = Work.ChainLines.Count();
+    if (count == 2)
+        Game.ChosenLine = Work.ChainLines.at(2);
+    else if (count + Game.LinesDrawn == Game.LineCount)
+        CaptureThenChoose(count - 1, count);
+    else if (!isLoop)
+        CaptureThenChoose(count - 2, count);
+    else
+        CaptureThenChoose(count - 3, count - 1);
+}
+
+// Two walks of at most one line each: there is nothing to decline.
+void TakeSingleBoxes() {
+    if (Work.ChainLines.Count() == 1) {
+        Game.ChosenLine = Work.ChainLines.at(1);
+        if (Work.ChainTailLines.Count() > 0) {
+            Capture(Game.ChosenLine);
+            Game.ChosenLine = Work.ChainTailLines.at(1);
+        }
+    } else if (Work.ChainTailLines.Count() == 1) {
+        Game.ChosenLine = Work.ChainTailLines.at(1);
+    }
+}
+
+bool StandsBesideACaptureBox(int line) {
+    const Line& drawn = Game.Lines.at(line);
+    return Game.Boxes.at(drawn.FirstBox).SidesDrawn == 3 ||
+           Game.Boxes.at(drawn.SecondBox).SidesDrawn == 3;
+}
+
+} // namespace
+
+void CheatTakeBoxes() {
+    const int lastLine = Game.LastLine;
+    TakeChainsNotOpenedBy(lastLine);
+    if (!StandsBesideACaptureBox(lastLine))
+        return;
+    TraceChain(lastLine);
+    if (Work.ChainLines.Count() < 2 && Work.ChainTailLines.Count() < 2) {
+        TakeSingleBoxes();
+        return;
+    }
+    const bool isLoop = Work.ChainTailLines.Count() == CountedList<Integer>::ClosedLoop;
+    JoinWalks();
+    TakeOrDecline(isLoop);
+}

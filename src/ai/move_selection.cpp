@@ -1,0 +1,83 @@
+#include "ai/move_selection.h"
+
+#include "ai/capture.h"
+#include "ai/chain_tracing.h"
+#include "ai/cheat_capture.h"
+#include "ai/sacrifice.h"
+#include "core/game_state.h"
+#include "core/pacing.h"
+#include "core/random.h"
+#include "core/work_lists.h"
+#include "display/safe_lines.h"
+
+namespace {
+
+// Takes the box and every box that its capture opens, but for the last line.
+void TakeWholeChain(int captureBox) {
+    if (!Game.HintMode)
+        Delay(CapturePause);
+    const int first = FirstUndrawnSide(captureBox);
+    Game.ChosenLine = ToInteger(first);
+    if (Game.HintMode)
+        return;
+    TraceChain(first);
+    if (Work.ChainLines.Count() < 1 && Work.ChainTailLines.Count() < 1)
+        return;
+    Work.ChainLines.Append(Work.ChainTailLines);
+    Capture(first);
+    for (int position = 1; position < Work.ChainLines.Count(); ++position)
+        Capture(Work.ChainLines.at(position));
+    Game.ChosenLine = Work.ChainLines.Last();
+}
+
+bool IsDrawn(int line) {
+    return Game.Lines.at(line).Drawn != 0;
+}
+
+// Returns whether a line was chosen; if not, every box with three sides is taken.
+bool CheatTookItsChoice(int captureBox) {
+    Game.ChosenLine = ToInteger(FirstUndrawnSide(captureBox));
+    CheatTakeBoxes();
+    if (Game.ChosenLine == 0 || IsDrawn(Game.ChosenLine)) {
+        const int nextBox = FindCaptureBox();
+        Game.ChosenLine = ToInteger(nextBox == 0 ? 0 : FirstUndrawnSide(nextBox));
+    }
+    return Game.ChosenLine != 0;
+}
+
+// Sorts the undrawn lines into safe ones, left in `ChainLines`, and `RiskyLines`.
+void ClassifyUndrawnLines() {
+    Work.ChainLines.Clear();
+    Work.RiskyLines.Clear();
+    for (int line = 1; line <= Game.LineCount; ++line) {
+        if (IsDrawn(line))
+            continue;
+        if (IsSafeLine(line))
+            Work.ChainLines.Append(ToInteger(line));
+        else
+            Work.RiskyLines.Append({ToInteger(line), 0});
+    }
+}
+
+void ChooseSafeOrRiskyLine() {
+    ClassifyUndrawnLines();
+    if (Work.ChainLines.Count() > 0)
+        Game.ChosenLine = Work.ChainLines.at(RandomPick(Work.ChainLines.Count()));
+    else if (Work.RiskyLines.Count() > 1)
+        ChooseSacrifice();
+    else if (Work.RiskyLines.Count() == 1)
+        GiveAwayLine(Work.RiskyLines.at(1).Line);
+}
+
+} // namespace
+
+void ChooseComputerMove() {
+    const int captureBox = FindCaptureBox();
+    if (captureBox == 0) {
+        ChooseSafeOrRiskyLine();
+    } else if (Game.HintMode || Game.PlayerKind.at(Game.CurrentPlayer) != ComputerCheat) {
+        TakeWholeChain(captureBox);
+    } else if (!CheatTookItsChoice(captureBox)) {
+        ChooseSafeOrRiskyLine();
+    }
+}

@@ -1,0 +1,120 @@
+#include "ai/sacrifice.h"
+
+#include <algorithm>
+
+#include "ai/capture.h"
+#include "ai/chain_tracing.h"
+#include "ai/deep_sacrifice.h"
+#include "core/game_state.h"
+#include "core/pacing.h"
+#include "core/random.h"
+#include "core/work_lists.h"
+#include "platform/desktop.h"
+
+namespace {
+
+// Sorts behind every real size.
+Integer NoCandidate() {
+    return ToInteger(Game.BoxCount + 1);
+}
+
+// Lets the window answer in between, however long the chains are.
+void TraceChainResponsively(int line, int& boxesTraced) {
+    constexpr int boxesBetweenYields = 200'000;
+    TraceChain(line);
+    boxesTraced += Work.ChainBoxes.Count();
+    if (boxesTraced >= boxesBetweenYields) {
+        boxesTraced = 0;
+        YieldToEvents(0);
+    }
+}
+
+void SizeRiskyLines() {
+    int boxesTraced = 0;
+    for (RiskyLine& risky : Work.RiskyLines) {
+        TraceChainResponsively(risky.Line, boxesTraced);
+        risky.Size = Work.ChainBoxes.Count() > 0 ? Work.ChainBoxes.Count() : NoCandidate();
+    }
+}
+
+// Appends to `ChainLines`, as `TraceChain` left it, the line traced and the other walk: all the
+// lines whose drawing opens this giveaway.
+void GatherGiveaway(int line) {
+    Work.ChainLines.Append(ToInteger(line));
+    Work.ChainLines.Append(Work.ChainTailLines);
+}
+
+// The row of `line` behind `row`, 0 = none. Before they are sorted by size the rows stand in the
+// order of their lines.
+int FindRowBehind(int row, int line) {
+    const auto found =
+        std::lower_bound(Work.RiskyLines.begin() + row, Work.RiskyLines.end(), line,
+                         [](const RiskyLine& risky, int wanted) { return risky.Line < wanted; });
+    if (found == Work.RiskyLines.end() || found->Line != line)
+        return 0;
+    return static_cast<int>(found - Work.RiskyLines.begin()) + 1;
+}
+
+void KeepOneLinePerGiveaway() {
+    int boxesTraced = 0;
+    for (int row = 1; row < Work.RiskyLines.Count(); ++row) {
+        const RiskyLine kept = Work.RiskyLines.at(row);
+        if (kept.Size == NoCandidate())
+            continue;
+        TraceChainResponsively(kept.Line, boxesTraced);
+        GatherGiveaway(kept.Line);
+        for (const Integer line : Work.ChainLines) {
+            const int other = FindRowBehind(row, line);
+            if (other != 0 && Work.RiskyLines.at(other).Size == kept.Size)
+                Work.RiskyLines.at(other).Size = NoCandidate();
+        }
+    }
+}
+
+void SortAndDropNoCandidates() {
+    std::stable_sort(Work.RiskyLines.begin(), Work.RiskyLines.end(),
+                     [](const RiskyLine& a, const RiskyLine& b) { return a.Size < b.Size; });
+    const auto behind = std::find_if(Work.RiskyLines.begin(), Work.RiskyLines.end(),
+                                     [](const RiskyLine& r) { return r.Size == NoCandidate(); });
+    Work.RiskyLines.Shorten(ToInteger(static_cast<int>(behind - Work.RiskyLines.begin())));
+}
+
+} // namespace
+
+void ChooseSacrifice() {
+    if (!Game.HintMode)
+        Delay(CapturePause);
+    SizeRiskyLines();
+    KeepOneLinePerGiveaway();
+    SortAndDropNoCandidates();
+    if (Game.PlayerKind.at(Game.CurrentPlayer) > ComputerAverage)
+        ChooseSacrificeDeep();
+    else
+        ChooseSmallestGiveaway();
+}
+
+void ChooseSmallestGiveaway() {
+    const Integer smallest = Work.RiskyLines.at(1).Size;
+    const auto larger = std::find_if(Work.RiskyLines.begin(), Work.RiskyLines.end(),
+                                     [=](const RiskyLine& r) { return r.Size > smallest; });
+    const int ties = static_cast<int>(larger - Work.RiskyLines.begin());
+    GiveAwayLine(Work.RiskyLines.at(RandomPick(ties)).Line);
+}
+
+void GiveAwayLine(int line) {
+    TraceChain(line);
+    GatherGiveaway(line);
+    const Integer kind = Game.PlayerKind.at(Game.CurrentPlayer);
+    if (Work.ChainBoxes.Count() != 2 || kind == Humanoid || kind == ComputerAverage) {
+        Game.ChosenLine = Work.ChainLines.at(RandomPick(Work.ChainLines.Count()));
+        return;
+    }
+    const auto [firstBox, secondBox] = std::minmax(Work.ChainBoxes.at(1), Work.ChainBoxes.at(2));
+    for (const Integer between : Work.ChainLines) {
+        const Line& candidate = Game.Lines.at(between);
+        if (candidate.FirstBox == firstBox && candidate.SecondBox == secondBox) {
+            Game.ChosenLine = between;
+            return;
+        }
+    }
+}

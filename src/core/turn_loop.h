@@ -1,0 +1,11 @@
+// Runs a game turn by turn until it is won, drawn, paused or given up.
+#pragma once
+
+// Plays the game that is set up: resumes it when `GamePaused` is set, else draws who begins. One
+// long call that yields all the while; returns when the game is over and its end has been shown,
+// when it is paused or abandoned, or when the program ends. Returns at once while another call of
+// it is running. When an exception leaves it, the game has been abandoned.
+void PlayGame();
+
+// Takes back a pause or an abandoned game's traces: no game, empty field, idle commands.
+void AbandonGame();

@@ -1,0 +1,182 @@
+#include "display/field.h"
+
+#include <cmath>
+
+#include "core/game_state.h"
+#include "platform/picture.h"
+
+namespace {
+
+int BoxesThatFit(int pictureSize, int spacing) {
+    return static_cast<int>(std::floor(static_cast<double>(pictureSize - spacing) / spacing));
+}
+
+Integer CentredStart(int pictureSize, int fieldSize) {
+    return RoundToInteger((pictureSize - fieldSize) / 2.0);
+}
+
+bool IsVertical(int line) {
+    return line > Game.HorizontalLineCount;
+}
+
+struct EndPoints {
+    int FromX, FromY, ToX, ToY;
+};
+
+EndPoints EndPointsOf(int line) {
+    const Line& drawn = Game.Lines.at(line);
+    if (IsVertical(line))
+        return {drawn.X, drawn.Y, drawn.X, drawn.Y + Game.PointSpacingY};
+    return {drawn.X, drawn.Y, drawn.X + Game.PointSpacingX, drawn.Y};
+}
+
+EndPoints GhostEndPointsOf(int line) {
+    EndPoints ends = EndPointsOf(line);
+    if (IsVertical(line)) {
+        ends.FromY += Game.TwipsPerPixelY;
+        ends.ToY -= Game.TwipsPerPixelY;
+    } else {
+        ends.FromX += Game.TwipsPerPixelX;
+        ends.ToX -= Game.TwipsPerPixelX;
+    }
+    return ends;
+}
+
+void PlotPoints() {
+    for (int x = Game.FieldLeft; x <= Game.FieldRight; x += Game.PointSpacingX)
+        for (int y = Game.FieldTop; y <= Game.FieldBottom; y += Game.PointSpacingY)
+            PlotPoint(x, y, Game.PointColor);
+}
+
+bool TablesMatchField() {
+    const int columns = FieldColumns();
+    const int rows = FieldRows();
+    return columns > 0 && rows > 0 && Game.BoxCount == columns * rows &&
+           Game.HorizontalLineCount == columns * (rows + 1) &&
+           Game.LineCount == Game.HorizontalLineCount + (columns + 1) * rows &&
+           Game.Boxes.size() == static_cast<std::size_t>(Game.BoxCount) + 1 &&
+           Game.Lines.size() == static_cast<std::size_t>(Game.LineCount) + 1;
+}
+
+} // namespace
+
+int ColumnsThatFit() {
+    return BoxesThatFit(PictureWidth(), Game.PointSpacingX);
+}
+
+int RowsThatFit() {
+    return BoxesThatFit(PictureHeight(), Game.PointSpacingY);
+}
+
+int FieldColumns() {
+    return Game.PointSpacingX > 0 ? (Game.FieldRight - Game.FieldLeft) / Game.PointSpacingX : 0;
+}
+
+int FieldRows() {
+    return Game.PointSpacingY > 0 ? (Game.FieldBottom - Game.FieldTop) / Game.PointSpacingY : 0;
+}
+
+void PlaceField(int columns, int rows) {
+    const int width = columns * Game.PointSpacingX;
+    const int height = rows * Game.PointSpacingY;
+    Game.FieldLeft = CentredStart(PictureWidth(), width);
+    Game.FieldRight = ToInteger(Game.FieldLeft + width);
+    Game.FieldTop = CentredStart(PictureHeight(), height);
+    Game.FieldBottom = ToInteger(Game.FieldTop + height);
+}
+
+void BuildField() {
+    ClearPicture();
+    PlotPoints();
+    const int columns = FieldColumns();
+    const int rows = FieldRows();
+    for (int column = 0; column <= columns; ++column) {
+        for (int row = 0; row <= rows; ++row) {
+            const Integer x = ToInteger(Game.FieldLeft + column * Game.PointSpacingX);
+            const Integer y = ToInteger(Game.FieldTop + row * Game.PointSpacingY);
+            // The box below and to the right of this point has the number of its top line.
+            const Integer box = ToInteger(row * columns + column + 1);
+            const bool hasBox = column < columns && row < rows;
+            if (column < columns) {
+                const Integer horizontal = box;
+                Game.Lines.at(horizontal).X = x;
+                Game.Lines.at(horizontal).Y = y;
+                if (hasBox) {
+                    const Integer bottom = ToInteger(horizontal + columns);
+                    Game.Boxes.at(box).Sides.at(Top) = horizontal;
+                    Game.Boxes.at(box).Sides.at(Bottom) = bottom;
+                    Game.Lines.at(bottom).FirstBox = box;
+                    Game.Lines.at(horizontal).SecondBox = box;
+                }
+            }
+            if (row < rows) {
+                const Integer vertical =
+                    ToInteger(Game.HorizontalLineCount + column * rows + row + 1);
+                Game.Lines.at(vertical).X = x;
+                Game.Lines.at(vertical).Y = y;
+                if (hasBox) {
+                    const Integer right = ToInteger(vertical + rows);
+                    Game.Boxes.at(box).Sides.at(Left) = vertical;
+                    Game.Boxes.at(box).Sides.at(Right) = right;
+                    Game.Lines.at(right).FirstBox = box;
+                    Game.Lines.at(vertical).SecondBox = box;
+                }
+            }
+        }
+    }
+}
+
+bool RedrawField() {
+    if (Game.BoxCount == 0 || !TablesMatchField())
+        return true;
+    const int newLeft = CentredStart(PictureWidth(), Game.FieldRight - Game.FieldLeft);
+    const int newTop = CentredStart(PictureHeight(), Game.FieldBottom - Game.FieldTop);
+    if (newLeft < 0 || newTop < 0)
+        return false;
+    const int movedX = newLeft - Game.FieldLeft;
+    const int movedY = newTop - Game.FieldTop;
+    PlaceField(FieldColumns(), FieldRows());
+
+    ClearPicture();
+    Game.GhostLine = 0;
+    Game.ComputerGhostLine = 0;
+    PlotPoints();
+    for (int line = 1; line <= Game.LineCount; ++line) {
+        Line& moved = Game.Lines.at(line);
+        moved.X = ToInteger(moved.X + movedX);
+        moved.Y = ToInteger(moved.Y + movedY);
+        PlotPoint(moved.X, moved.Y, Game.PointColor);
+        if (moved.Drawn != 0)
+            DrawLine(line, Game.PointColor);
+    }
+    for (int box = 1; box <= Game.BoxCount; ++box)
+        if (Game.Boxes.at(box).SidesDrawn == 4)
+            FillBox(box);
+    return true;
+}
+
+void DrawLine(int line, Color color) {
+    const EndPoints ends = EndPointsOf(line);
+    DrawPictureLine(ends.FromX, ends.FromY, ends.ToX, ends.ToY, color);
+}
+
+void DrawGhostLine(int line, Color color) {
+    const EndPoints ends = GhostEndPointsOf(line);
+    DrawPictureLine(ends.FromX, ends.FromY, ends.ToX, ends.ToY, color);
+}
+
+void EraseGhostLine(int line) {
+    const EndPoints ends = GhostEndPointsOf(line);
+    ErasePictureLine(ends.FromX, ends.FromY, ends.ToX, ends.ToY);
+}
+
+void FillBox(int box) {
+    const Box& filled = Game.Boxes.at(box);
+    const Color color = Game.PlayerColor.at(filled.Owner);
+    const Line& top = Game.Lines.at(filled.Sides.at(Top));
+    const Line& bottom = Game.Lines.at(filled.Sides.at(Bottom));
+    const int gapX = 3 * Game.TwipsPerPixelX;
+    const int gapY = 3 * Game.TwipsPerPixelY;
+    FillPictureBox(top.X + gapX, top.Y + gapY, bottom.X + Game.PointSpacingX - gapX,
+                   bottom.Y - gapY, color);
+}

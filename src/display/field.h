@@ -1,0 +1,35 @@
+// The playing field: where its points lie on the picture, and how its lines and boxes are drawn.
+#pragma once
+
+#include "platform/color.h"
+
+// How many boxes of the current spacing fit on the picture, with one spacing kept free as margin.
+int ColumnsThatFit();
+int RowsThatFit();
+
+// Columns and rows of the field on screen. The settings `GridColumns` and `GridRows` belong to the
+// next game and may differ. 0 while there is no field.
+int FieldColumns();
+int FieldRows();
+
+// Sets the four edges of a field of so many boxes, centred on the picture.
+void PlaceField(int columns, int rows);
+
+// Clears the picture, plots the points of a new field and fills the coordinates and neighbours of
+// `Lines` and `Boxes`. The counts and edges are set and the tables sized and cleared before.
+void BuildField();
+
+// Moves the field to the centre of the picture and draws everything again but ghost lines, which
+// are forgotten. False, and nothing is touched, when the field no longer fits. Draws nothing while
+// there is no field or the tables do not match the counts.
+bool RedrawField();
+
+void DrawLine(int line, Color color);
+
+// Ghost lines stop a pixel short of their end points, so that the points stay.
+void DrawGhostLine(int line, Color color);
+void EraseGhostLine(int line);
+
+// Fills a claimed box in its owner's colour, three pixels inside its lines. Throws
+// std::out_of_range when it has no owner.
+void FillBox(int box);

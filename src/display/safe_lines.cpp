@@ -1,0 +1,79 @@
+#include "display/safe_lines.h"
+
+#include <vector>
+
+#include "core/game_state.h"
+#include "core/random.h"
+#include "core/work_lists.h"
+#include "display/field.h"
+#include "display/status_panel.h"
+
+namespace {
+
+// The safe lines in any order, each with its place in the list, so that a line that stops being
+// safe is found and taken out at once and a whole opening costs one pass over the board.
+class SafeLineList {
+public:
+    SafeLineList()
+        : Lines(Work.ChainLines), PositionOf(static_cast<std::size_t>(Game.LineCount) + 1) {
+        Lines.Clear();
+        for (int line = 1; line <= Game.LineCount; ++line) {
+            if (Game.Lines.at(line).Drawn == 0 && IsSafeLine(line)) {
+                Lines.Append(ToInteger(line));
+                PositionOf.at(line) = Lines.Count();
+            }
+        }
+    }
+
+    bool IsEmpty() const { return Lines.Count() == 0; }
+    Integer Pick() const { return Lines.at(RandomPick(Lines.Count())); }
+
+    void Remove(int line) {
+        const Integer position = PositionOf.at(line);
+        if (position == 0)
+            return;
+        const Integer last = Lines.Last();
+        Lines.at(position) = last;
+        PositionOf.at(last) = position;
+        PositionOf.at(line) = 0;
+        Lines.Shorten(ToInteger(Lines.Count() - 1));
+    }
+
+private:
+    CountedList<Integer>& Lines;
+    std::vector<Integer> PositionOf; // 0 = not in the list
+};
+
+void AddSide(int box, SafeLineList& safeLines) {
+    if (box == 0)
+        return;
+    Box& neighbour = Game.Boxes.at(box);
+    Increase(neighbour.SidesDrawn, 1);
+    if (neighbour.SidesDrawn == 2)
+        for (const Integer side : neighbour.Sides)
+            safeLines.Remove(side);
+}
+
+} // namespace
+
+bool IsSafeLine(int line) {
+    const Line& candidate = Game.Lines.at(line);
+    return Game.Boxes.at(candidate.FirstBox).SidesDrawn < 2 &&
+           Game.Boxes.at(candidate.SecondBox).SidesDrawn < 2;
+}
+
+void DrawSafeLines() {
+    SafeLineList safeLines;
+    while (!safeLines.IsEmpty()) {
+        const Integer line = safeLines.Pick();
+        safeLines.Remove(line);
+        Line& drawn = Game.Lines.at(line);
+        drawn.Drawn = line;
+        Increase(Game.LinesDrawn, 1);
+        DrawLine(line, Game.PointColor);
+        AddSide(drawn.FirstBox, safeLines);
+        AddSide(drawn.SecondBox, safeLines);
+    }
+    Game.ChosenLine = 0;
+    ShowLinesStatus();
+}

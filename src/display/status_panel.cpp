@@ -1,0 +1,103 @@
+#include "display/status_panel.h"
+
+#include "core/game_state.h"
+
+namespace {
+
+// Right-aligned in five characters.
+std::string NumberField(int number) {
+    constexpr std::size_t width = 5;
+    const std::string padded =
+        std::string(width, ' ') + (number < 0 ? "" : " ") + std::to_string(number);
+    return padded.substr(padded.size() - width);
+}
+
+std::string KindWord(int kind) {
+    switch (kind) {
+    case ComputerAverage:
+        return "Average";
+    case ComputerIntelligent:
+        return "Intelligent";
+    case ComputerCheat:
+        return "Cheat";
+    default:
+        return "Humanoid";
+    }
+}
+
+std::string CounterText(const char* name, int count, int total) {
+    return name + NumberField(count) + " of " + NumberField(total);
+}
+
+} // namespace
+
+void ShowPlayerStatus(int player) {
+    const std::string status = Game.PlayerName.at(player) + ": " +
+                               NumberField(Game.PlayerScore.at(player)) + std::string(5, ' ') +
+                               KindWord(Game.PlayerKind.at(player));
+    (player == 1 ? frmQuibsMain.txtPlayer1Status : frmQuibsMain.txtPlayer2Status).Text = status;
+    ShowPlayerColor(player);
+}
+
+void ShowPlayerColor(int player) {
+    const Color color = Game.PlayerColor.at(player);
+    (player == 1 ? frmQuibsMain.shpPlayer1Status : frmQuibsMain.shpPlayer2Status).FillColor = color;
+}
+
+void ShowBoxesStatus() {
+    frmQuibsMain.txtBoxesStatus.Text = CounterText("Boxes: ", Game.BoxesClaimed, Game.BoxCount);
+}
+
+void ShowLinesStatus() {
+    frmQuibsMain.txtLinesStatus.Text = CounterText("Lines: ", Game.LinesDrawn, Game.LineCount);
+}
+
+void ClearCounters() {
+    frmQuibsMain.txtBoxesStatus.Text.clear();
+    frmQuibsMain.txtLinesStatus.Text.clear();
+}
+
+std::string TurnText(int player) {
+    return Game.PlayerName.at(player) + "'s Turn";
+}
+
+void ShowTurn(int player) {
+    if (!IsPlayer(player))
+        return;
+    ShowCaptions(player == 1 ? TurnText(1) : "", player == 2 ? TurnText(2) : "");
+    ShowMarkers(MarkerPair::First, false);
+    Shape& marker = player == 1 ? frmQuibsMain.shpPlayer1Active : frmQuibsMain.shpPlayer2Active;
+    marker = {Game.PlayerColor.at(player), true};
+}
+
+void ShowGamePaused() {
+    ShowCaptions(TurnText(Game.CurrentPlayer), "GAME PAUSED");
+    ShowMarkers(MarkerPair::First, false);
+}
+
+void ShowCaptions(const std::string& first, const std::string& second) {
+    frmQuibsMain.lblPlayer1Active.Caption = first;
+    frmQuibsMain.lblPlayer2Active.Caption = second;
+}
+
+void ShowMarkers(MarkerPair pair, bool visible) {
+    if (pair == MarkerPair::First) {
+        frmQuibsMain.shpPlayer1Active.Visible = visible;
+        frmQuibsMain.shpPlayer2Active.Visible = visible;
+    } else {
+        frmQuibsMain.shpPlayer3Active.Visible = visible;
+        frmQuibsMain.shpPlayer4Active.Visible = visible;
+    }
+}
+
+void ShowAllMarkers(bool visible) {
+    ShowMarkers(MarkerPair::First, visible);
+    ShowMarkers(MarkerPair::Second, visible);
+}
+
+void FillAllMarkers(Color color) {
+    frmQuibsMain.shpPlayer1Active.FillColor = color;
+    frmQuibsMain.shpPlayer2Active.FillColor = color;
+    frmQuibsMain.shpPlayer3Active.FillColor = color;
+    frmQuibsMain.shpPlayer4Active.FillColor = color;
+}

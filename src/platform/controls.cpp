@@ -1,0 +1,3 @@
+#include "platform/controls.h"
+
+MainWindowControls frmQuibsMain;

@@ -1,0 +1,28 @@
+// What the game asks of the desktop it runs on: the clock, the event queue and message boxes.
+#pragma once
+
+#include <string>
+
+// Seconds since midnight, local time, 0 to 86400. Falls back to 0 at midnight.
+float SecondsSinceMidnight();
+
+inline constexpr float Forever = -1.0F;
+
+// Sleeps until an event arrives or `atMostSeconds` have passed, handles everything that is pending
+// and returns. 0 does not sleep; Forever sleeps until an event. Event handlers run inside this
+// call, so any command of the window may have changed the game when it returns. Never called from a
+// paint or resize event.
+void YieldToEvents(float atMostSeconds);
+
+enum class MessageIcon { None, Exclamation, Question };
+enum class MessageButtons { Ok, YesNo };
+enum class MessageAnswer { Ok, Yes, No };
+
+// Shows a box modal to the whole application and blocks until it is answered. `text` is plain text.
+// A box that the end of the program closes answers Ok or No.
+MessageAnswer ShowMessageBox(const std::string& text, const std::string& title, MessageIcon icon,
+                             MessageButtons buttons);
+
+// Twips (1440 to the inch) to one logical pixel of the screen, across and down.
+double ScreenTwipsPerPixelX();
+double ScreenTwipsPerPixelY();

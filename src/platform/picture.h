@@ -1,0 +1,24 @@
+// The picture that the playing field is drawn on. All coordinates are twips from its top-left
+// corner; what lies outside is clipped. Nothing here blocks or yields.
+#pragma once
+
+#include "platform/color.h"
+
+// Inner size in twips, 0 to 32767.
+int PictureWidth();
+int PictureHeight();
+
+// Takes everything off the picture, so that its background shows.
+void ClearPicture();
+
+// Plots one point, a pixel wide and high.
+void PlotPoint(int x, int y, Color color);
+
+// Draws a horizontal or vertical line of one pixel from one end point to the other, both included.
+void DrawPictureLine(int fromX, int fromY, int toX, int toY, Color color);
+
+// Gives the pixels of such a line back to the background.
+void ErasePictureLine(int fromX, int fromY, int toX, int toY);
+
+// Fills the rectangle between two corners, both included.
+void FillPictureBox(int left, int top, int right, int bottom, Color color);

@@ -1,0 +1,238 @@
+#include "ui/commands.h"
+
+#include <exception>
+#include <string>
+#include <utility>
+
+#include "core/game_setup.h"
+#include "core/game_state.h"
+#include "core/pointer_input.h"
+#include "core/random.h"
+#include "core/turn_loop.h"
+#include "display/command_states.h"
+#include "display/field.h"
+#include "display/safe_lines.h"
+#include "display/status_panel.h"
+#include "platform/desktop.h"
+#include "storage/configuration.h"
+
+namespace {
+
+bool Confirms(const char* question, const char* title) {
+    return ShowMessageBox(question, title, MessageIcon::Question, MessageButtons::YesNo) ==
+           MessageAnswer::Yes;
+}
+
+// Sets up a game whose opening is filled in, to be started later.
+void DrawGame() {
+    NewGame();
+    DrawSafeLines();
+    Game.CurrentPlayer = RandomPick(2);
+    ShowGamePaused();
+    Game.GamePaused = true;
+    EnterPhase(Phase::Prepared);
+}
+
+void SetUpAndPlay(Command command) {
+    if (command == Command::Draw) {
+        DrawGame();
+        return;
+    }
+    if (!Game.GamePaused)
+        NewGame();
+    if (command == Command::Auto)
+        DrawSafeLines();
+    PlayGame();
+}
+
+// Runs a command that needs the turn loop to itself. While the end of a game is being shown the
+// command is kept, the showing stops, and the call that shows it carries the command out when its
+// loop has unwound; so the stack stays as deep as one.
+void RunGameCommand(Command command) {
+    if (Game.GameOverShown) {
+        Game.CommandAfterGameOver = command;
+        return;
+    }
+    std::optional<Command> next = command;
+    while (next && !Game.ProgramEnding) {
+        SetUpAndPlay(*next);
+        next = std::exchange(Game.CommandAfterGameOver, std::nullopt);
+    }
+}
+
+// A pause that the turn loop has not seen yet is forgotten.
+void TakePauseBack() {
+    Game.GamePaused = false;
+    ShowTurn(Game.CurrentPlayer);
+    if (Game.QuitRequested)
+        EnterPhase(Phase::QuitPending);
+    else
+        EnterPhase(Game.MouseDownSeen ? Phase::ComputerToMove : Phase::PersonToMove);
+}
+
+// Centred by hand for a box of 80 characters.
+std::string CentredLine(const std::string& line) {
+    const int indent = RoundToInteger(40 - static_cast<double>(line.size()) / 2);
+    const std::string margin(static_cast<std::size_t>(indent), ' ');
+    return margin + line + margin;
+}
+
+} // namespace
+
+void RunGuarded(const std::function<void()>& handler) {
+    std::string failure;
+    try {
+        handler();
+        return;
+    } catch (const std::exception& error) {
+        failure = error.what();
+    } catch (...) {
+        failure = "an unknown error";
+    }
+    // A turn loop that is running below this handler must unwind by itself.
+    if (Game.GameInPlay)
+        Game.QuitRequested = true;
+    else if (!Game.GameOverShown)
+        AbandonGame();
+    ShowMessageBox("The game had to be ended: " + failure + ".", "Quiblink",
+                   MessageIcon::Exclamation, MessageButtons::Ok);
+}
+
+void RunCommand(Command command) {
+    if (!IsEnabled(command) || Game.ProgramEnding)
+        return;
+    switch (command) {
+    case Command::Exit:
+        return mnuExit_Click();
+    case Command::Start:
+        return mnuStart_Click();
+    case Command::Auto:
+        return mnuAuto_Click();
+    case Command::Draw:
+        return mnuDraw_Click();
+    case Command::Exchange:
+        return mnuExchange_Click();
+    case Command::Hint:
+        return mnuHint_Click();
+    case Command::Pause:
+        return mnuPause_Click();
+    case Command::Quit:
+        return mnuQuit_Click();
+    case Command::Sound:
+        return mnuSound_Click();
+    case Command::About:
+        return mnuAbout_Click();
+    default:
+        break;
+    }
+}
+
+void Form_Load() {
+    Game.TwipsPerPixelX = ToInteger(std::max<int>(1, RoundToInteger(ScreenTwipsPerPixelX())));
+    Game.TwipsPerPixelY = ToInteger(std::max<int>(1, RoundToInteger(ScreenTwipsPerPixelY())));
+    SetDefaults();
+    ShowPlayerStatus(1);
+    ShowPlayerStatus(2);
+    EnterPhase(Phase::Idle);
+}
+
+bool Form_Resize() {
+    return !RedrawField() && (Game.GamePaused || Game.GameInPlay) && !Game.ResizeWarningShown;
+}
+
+void ShowResizeWarning() {
+    if (Game.ResizeWarningShown || Game.ProgramEnding)
+        return;
+    Game.ResizeWarningShown = true;
+    ShowMessageBox("You have resized the Quiblink window while a game\n"
+                   "was in progress or paused. The results of the resize may not\n"
+                   "be what you expected. You may need to reverse the resize.\n",
+                   "Quiblink Resize Warning", MessageIcon::Exclamation, MessageButtons::Ok);
+    Game.ResizeWarningShown = false;
+}
+
+void Form_Unload() {
+    Game.ProgramEnding = true;
+}
+
+void mnuExit_Click() {
+    if ((Game.GameInPlay || Game.GamePaused) &&
+        !Confirms("A game is in progress, exit anyway?", "Exit the Game"))
+        return;
+    Form_Unload();
+}
+
+void mnuStart_Click() {
+    if (!Game.GameInPlay)
+        RunGameCommand(Command::Start);
+    else if (Game.GamePaused)
+        TakePauseBack();
+}
+
+void mnuAuto_Click() {
+    if (!Game.GameInPlay && !Game.GamePaused)
+        RunGameCommand(Command::Auto);
+}
+
+void mnuDraw_Click() {
+    if (!Game.GameInPlay && !Game.GamePaused)
+        RunGameCommand(Command::Draw);
+}
+
+void mnuExchange_Click() {
+    if (Game.GameInPlay || !IsPlayer(Game.CurrentPlayer))
+        return;
+    Game.CurrentPlayer = ToInteger(OtherPlayer(Game.CurrentPlayer));
+    frmQuibsMain.lblPlayer1Active.Caption = TurnText(Game.CurrentPlayer);
+}
+
+void mnuHint_Click() {
+    ShowHint();
+}
+
+void mnuPause_Click() {
+    if (!Game.GameInPlay)
+        return;
+    Game.GamePaused = true;
+    EnterPhase(Phase::PausePending);
+}
+
+void mnuQuit_Click() {
+    if (!Game.GameInPlay && !Game.GamePaused)
+        return;
+    Game.QuitRequested =
+        Confirms("Are you sure you want to quit the current game?", "Quit the Game");
+    if (!Game.QuitRequested)
+        return;
+    if (Game.GamePaused)
+        mnuStart_Click();
+    else
+        EnterPhase(Phase::QuitPending);
+}
+
+void mnuSound_Click() {
+    Game.SettingsChanged = true;
+    Game.SoundOn = !Game.SoundOn;
+    StateOf(Command::Sound).Checked = Game.SoundOn;
+}
+
+void mnuAbout_Click() {
+    const std::string text = CentredLine("Quiblink Version 3.2") + "\n" +
+                             CentredLine("A game of quibs, lines and boxes") + "\n" +
+                             CentredLine("Made by the Quiblink developers") + std::string(40, ' ');
+    ShowMessageBox(text, "About Quiblink", MessageIcon::None, MessageButtons::Ok);
+}
+
+void picPlayingField_MouseDown() {
+    PressGhostLine();
+}
+
+void picPlayingField_MouseMove(float x, float y) {
+    // Desktops repeat the last position, as when a window over the field closes; that must not
+    // erase a hint.
+    if (x == Game.PointerX && y == Game.PointerY)
+        return;
+    Game.PointerX = x;
+    Game.PointerY = y;
+    ShowGhostLine(x, y);
+}

@@ -1,0 +1,41 @@
+// What the commands and events of the main window do. Nothing here knows the window's toolkit: the
+// window only forwards, so whole stories run without one.
+#pragma once
+
+#include <functional>
+
+#include "platform/controls.h"
+
+// Runs an event handler. An unforeseen failure in it is told in a message box and ends the game,
+// not the program.
+void RunGuarded(const std::function<void()>& handler);
+
+// Carries out a command if it is enabled; one that arrives late, after its state changed, does
+// nothing. Only for commands that have a handler here.
+void RunCommand(Command command);
+
+// Start-up, with the window's size known: screen factors, settings, status lines.
+void Form_Load();
+
+// Redraws the field for the picture's new size. True when the user is to be warned, by
+// `ShowResizeWarning` from the event queue, that the game no longer fits.
+bool Form_Resize();
+void ShowResizeWarning();
+
+// The close box: every wait and loop ends, nothing is asked or saved.
+void Form_Unload();
+
+void mnuExit_Click();
+void mnuStart_Click();
+void mnuAuto_Click();
+void mnuDraw_Click();
+void mnuExchange_Click();
+void mnuHint_Click();
+void mnuPause_Click();
+void mnuQuit_Click();
+void mnuSound_Click();
+void mnuAbout_Click();
+
+// A press of any button on the field, and a move to (x, y) in twips.
+void picPlayingField_MouseDown();
+void picPlayingField_MouseMove(float x, float y);
