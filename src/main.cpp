@@ -1,0 +1,43 @@
+// Quiblink: makes the desktop and the window, and runs until the program ends.
+#include <QApplication>
+#include <iostream>
+
+#include "core/game_state.h"
+#include "platform/desktop.h"
+#include "ui/commands.h"
+#include "ui/end_signals.h"
+#include "ui/main_window.h"
+
+namespace {
+
+// The last resort for a failure that no handler caught: it must not cross the toolkit.
+class GuardedApplication : public QApplication {
+public:
+    using QApplication::QApplication;
+
+    bool notify(QObject* receiver, QEvent* event) override {
+        bool isHandled = false;
+        RunGuarded([&] { isHandled = QApplication::notify(receiver, event); });
+        return isHandled;
+    }
+};
+
+} // namespace
+
+int main(int argc, char* argv[]) {
+    if (argc > 1) {
+        std::cerr << "usage: quiblink\n";
+        return 2;
+    }
+    QGuiApplication::setHighDpiScaleFactorRoundingPolicy(
+        Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
+    GuardedApplication application(argc, argv);
+    QApplication::setApplicationName("Quiblink");
+    QApplication::setDesktopFileName("quiblink");
+    MainWindow window;
+    EndOnSignals([&window] { window.EndProgram(); });
+    window.Open();
+    while (!Game.ProgramEnding)
+        YieldToEvents(Forever);
+    return 0;
+}

@@ -1,0 +1,89 @@
+#include "platform/qt/field_picture.h"
+
+#include <QPainter>
+#include <algorithm>
+#include <cmath>
+
+#include "core/game_state.h"
+#include "platform/picture.h"
+#include "platform/qt/qt_color.h"
+
+FieldPicture TheFieldPicture;
+
+namespace {
+
+constexpr int LargestPicture = 32767; // twips
+
+QRgb Opaque(Color color) {
+    return ToQColor(color).rgb();
+}
+
+} // namespace
+
+void FieldPicture::Resize(QSize logicalSize, qreal screenPixelRatio) {
+    if (logicalSize == Size && screenPixelRatio == Ratio)
+        return;
+    const QSize screenSize(static_cast<int>(std::ceil(logicalSize.width() * screenPixelRatio)),
+                           static_cast<int>(std::ceil(logicalSize.height() * screenPixelRatio)));
+    QImage resized(screenSize, QImage::Format_ARGB32_Premultiplied);
+    resized.fill(Qt::transparent);
+    if (!Pixels.isNull() && screenPixelRatio == Ratio)
+        QPainter(&resized).drawImage(0, 0, Pixels);
+    Pixels = resized;
+    Size = logicalSize;
+    Ratio = screenPixelRatio;
+}
+
+void FieldPicture::Clear() {
+    Pixels.fill(Qt::transparent);
+    WhenChanged(QRect(QPoint(), Size));
+}
+
+void FieldPicture::Fill(int left, int top, int right, int bottom, QRgb color) {
+    const int stroke = std::max(1, static_cast<int>(Ratio));
+    const auto toScreen = [this](int twips, int twipsPerPixel) {
+        return static_cast<int>(std::floor(twips * Ratio / twipsPerPixel));
+    };
+    const QRect wanted(
+        QPoint(toScreen(left, Game.TwipsPerPixelX), toScreen(top, Game.TwipsPerPixelY)),
+        QPoint(toScreen(right, Game.TwipsPerPixelX) + stroke - 1,
+               toScreen(bottom, Game.TwipsPerPixelY) + stroke - 1));
+    const QRect filled = wanted & Pixels.rect();
+    if (filled.isEmpty())
+        return;
+    for (int y = filled.top(); y <= filled.bottom(); ++y) {
+        auto* row = reinterpret_cast<QRgb*>(Pixels.scanLine(y));
+        std::fill_n(row + filled.left(), filled.width(), color);
+    }
+    const QRectF logical(filled.left() / Ratio, filled.top() / Ratio, filled.width() / Ratio,
+                         filled.height() / Ratio);
+    WhenChanged(logical.toAlignedRect());
+}
+
+int PictureWidth() {
+    return std::min(TheFieldPicture.LogicalSize().width() * Game.TwipsPerPixelX, LargestPicture);
+}
+
+int PictureHeight() {
+    return std::min(TheFieldPicture.LogicalSize().height() * Game.TwipsPerPixelY, LargestPicture);
+}
+
+void ClearPicture() {
+    TheFieldPicture.Clear();
+}
+
+void PlotPoint(int x, int y, Color color) {
+    TheFieldPicture.Fill(x, y, x, y, Opaque(color));
+}
+
+void DrawPictureLine(int fromX, int fromY, int toX, int toY, Color color) {
+    TheFieldPicture.Fill(fromX, fromY, toX, toY, Opaque(color));
+}
+
+void ErasePictureLine(int fromX, int fromY, int toX, int toY) {
+    TheFieldPicture.Fill(fromX, fromY, toX, toY, qRgba(0, 0, 0, 0));
+}
+
+void FillPictureBox(int left, int top, int right, int bottom, Color color) {
+    TheFieldPicture.Fill(left, top, right, bottom, Opaque(color));
+}

@@ -1,0 +1,32 @@
+// The image behind the playing field. It lies transparent over the background, so that a new
+// background shows under what is drawn, and keeps its drawing while the window is covered.
+#pragma once
+
+#include <QImage>
+#include <functional>
+
+class FieldPicture {
+public:
+    // Takes the size in logical pixels and the screen pixels to one of them. What was drawn stays
+    // where it was, as far as it fits.
+    void Resize(QSize logicalSize, qreal screenPixelRatio);
+
+    const QImage& Image() const { return Pixels; }
+    QSize LogicalSize() const { return Size; }
+    qreal PixelRatio() const { return Ratio; }
+
+    void Clear();
+
+    // Fills whole screen pixels between two corners in twips, both included; 0 clears them.
+    void Fill(int left, int top, int right, int bottom, QRgb color);
+
+    // Called with the changed rectangle, in logical pixels.
+    std::function<void(const QRect&)> WhenChanged = [](const QRect&) {};
+
+private:
+    QImage Pixels;
+    QSize Size;
+    qreal Ratio = 1;
+};
+
+extern FieldPicture TheFieldPicture;

@@ -1,0 +1,90 @@
+// The clock, the event queue and the message boxes of the real desktop.
+#include "platform/qt/qt_desktop.h"
+
+#include <QApplication>
+#include <QMessageBox>
+#include <QTime>
+#include <QTimer>
+#include <cmath>
+#include <utility>
+
+#include "platform/desktop.h"
+
+namespace {
+
+constexpr double TwipsPerInch = 1440;
+// A logical pixel is 1/96 inch whatever the screen's scale.
+constexpr double LogicalPixelsPerInch = 96;
+
+std::function<void()> showControls = [] {};
+
+QMessageBox::Icon ToQt(MessageIcon icon) {
+    switch (icon) {
+    case MessageIcon::Exclamation:
+        return QMessageBox::Warning;
+    case MessageIcon::Question:
+        return QMessageBox::Question;
+    case MessageIcon::None:
+        break;
+    }
+    return QMessageBox::NoIcon;
+}
+
+MessageAnswer FromQt(int button) {
+    switch (button) {
+    case QMessageBox::Yes:
+        return MessageAnswer::Yes;
+    case QMessageBox::No:
+        return MessageAnswer::No;
+    default:
+        return MessageAnswer::Ok;
+    }
+}
+
+} // namespace
+
+void ShowControlsWith(std::function<void()> show) {
+    showControls = std::move(show);
+}
+
+float SecondsSinceMidnight() {
+    constexpr float millisecondsPerSecond = 1000.0F;
+    return static_cast<float>(QTime::currentTime().msecsSinceStartOfDay()) / millisecondsPerSecond;
+}
+
+void YieldToEvents(float atMostSeconds) {
+    showControls();
+    if (atMostSeconds == 0) {
+        QCoreApplication::processEvents();
+        return;
+    }
+    QTimer alarm;
+    if (atMostSeconds > 0) {
+        alarm.setTimerType(Qt::PreciseTimer);
+        alarm.setSingleShot(true);
+        alarm.start(static_cast<int>(std::ceil(atMostSeconds * 1000)));
+    }
+    QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents);
+}
+
+MessageAnswer ShowMessageBox(const std::string& text, const std::string& title, MessageIcon icon,
+                             MessageButtons buttons) {
+    showControls();
+    QMessageBox box(QApplication::activeWindow());
+    box.setWindowModality(Qt::ApplicationModal);
+    box.setWindowTitle(QString::fromStdString(title));
+    box.setTextFormat(Qt::PlainText);
+    box.setText(QString::fromStdString(text).remove('\r'));
+    box.setIcon(ToQt(icon));
+    box.setStandardButtons(buttons == MessageButtons::YesNo ? QMessageBox::Yes | QMessageBox::No
+                                                            : QMessageBox::Ok);
+    return FromQt(box.exec());
+}
+
+double ScreenTwipsPerPixelX() {
+    return TwipsPerInch / LogicalPixelsPerInch;
+}
+
+double ScreenTwipsPerPixelY() {
+    return TwipsPerInch / LogicalPixelsPerInch;
+}

@@ -1,0 +1,46 @@
+#include "ui/form_dialog.h"
+
+#include <QHBoxLayout>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include "ui/commands.h"
+
+FormDialog::FormDialog(QWidget* parent, const char* objectName, const char* caption)
+    : QDialog(parent) {
+    setObjectName(objectName);
+    setWindowTitle(caption);
+}
+
+void FormDialog::Open() {
+    if (!isVisible()) {
+        Load();
+        show();
+    }
+    raise();
+    activateWindow();
+}
+
+void FormDialog::SetContent(QLayout* content) {
+    auto* cmdOk = new QPushButton("Ok", this);
+    cmdOk->setObjectName("cmdOk");
+    cmdOk->setDefault(true);
+    auto* cmdCancel = new QPushButton("Cancel", this);
+    cmdCancel->setObjectName("cmdCancel");
+    cmdCancel->setAutoDefault(false);
+    connect(cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
+    connect(cmdOk, &QPushButton::clicked, this, [this] {
+        RunGuarded([this] { Store(); });
+        accept();
+    });
+
+    auto* buttons = new QHBoxLayout;
+    buttons->addStretch();
+    buttons->addWidget(cmdOk);
+    buttons->addWidget(cmdCancel);
+    auto* all = new QVBoxLayout(this);
+    all->setSizeConstraint(QLayout::SetFixedSize);
+    all->setSpacing(16);
+    all->addLayout(content);
+    all->addLayout(buttons);
+}

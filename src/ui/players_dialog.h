@@ -1,0 +1,35 @@
+// Sets the name, the colour and the kind of each player, also while a game is under way.
+#pragma once
+
+#include <array>
+
+#include "core/game_state.h"
+#include "ui/form_dialog.h"
+
+class QGroupBox;
+class QLineEdit;
+class QRadioButton;
+class Swatch;
+
+class PlayersDialog : public FormDialog {
+    Q_OBJECT
+
+public:
+    explicit PlayersDialog(QWidget* parent);
+
+protected:
+    void Load() override;
+    void Store() override;
+
+private:
+    struct PlayerControls {
+        QLineEdit* txtName;
+        Swatch* shpColor;
+        std::array<QRadioButton*, 4> optKinds; // indexed by kind
+    };
+
+    PlayerControls AddPlayer(QGridLayout* grid, int player);
+    QGroupBox* AddKinds(int player, PlayerControls& controls);
+
+    PerPlayer<PlayerControls> Players;
+};

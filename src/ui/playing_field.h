@@ -1,0 +1,23 @@
+// The picture that the field is drawn on, as the window shows it.
+#pragma once
+
+#include <QWidget>
+
+class PlayingField : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit PlayingField(QWidget* parent);
+
+    // Shows background and pointer as the controls' data have them.
+    void ShowControls();
+
+signals:
+    // The screen has other pixels than the picture, or the picture another size.
+    void PictureOutdated();
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+};
