@@ -1,5 +1,6 @@
 #include "ai/chain_tracing.h"
 
+#include <algorithm>
 #include <array>
 #include <vector>
 
@@ -91,10 +92,8 @@ void Walk(int box, int line, CountedList<Integer>& lines) {
 }
 
 bool HasSide(int box, int line) {
-    for (const Integer side : Game.Boxes.at(box).Sides)
-        if (side == line)
-            return true;
-    return false;
+    const auto& sides = Game.Boxes.at(box).Sides;
+    return std::find(sides.begin(), sides.end(), line) != sides.end();
 }
 
 } // namespace

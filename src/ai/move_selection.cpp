@@ -73,11 +73,9 @@ void ChooseSafeOrRiskyLine() {
 
 void ChooseComputerMove() {
     const int captureBox = FindCaptureBox();
-    if (captureBox == 0) {
-        ChooseSafeOrRiskyLine();
-    } else if (Game.HintMode || Game.PlayerKind.at(Game.CurrentPlayer) != ComputerCheat) {
+    const bool cheats = !Game.HintMode && Game.PlayerKind.at(Game.CurrentPlayer) == ComputerCheat;
+    if (captureBox != 0 && !cheats)
         TakeWholeChain(captureBox);
-    } else if (!CheatTookItsChoice(captureBox)) {
+    else if (captureBox == 0 || !CheatTookItsChoice(captureBox))
         ChooseSafeOrRiskyLine();
-    }
 }

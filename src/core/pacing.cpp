@@ -6,9 +6,9 @@
 void Delay(float seconds) {
     const float start = SecondsSinceMidnight();
     const float end = start + seconds;
-    for (float now = start; now >= start && now < end; now = SecondsSinceMidnight()) {
-        if (Game.ProgramEnding || Game.CommandAfterGameOver)
-            return;
+    float now = start;
+    while (now >= start && now < end && !Game.ProgramEnding && !Game.CommandAfterGameOver) {
         YieldToEvents(end - now);
+        now = SecondsSinceMidnight();
     }
 }

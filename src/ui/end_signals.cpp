@@ -31,5 +31,5 @@ void EndOnSignals(std::function<void()> endProgram) {
                          endProgram();
                      });
     for (const int signal : {SIGTERM, SIGINT, SIGHUP})
-        std::signal(signal, WakeEventQueue);
+        (void)std::signal(signal, WakeEventQueue);
 }

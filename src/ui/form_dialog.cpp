@@ -12,7 +12,7 @@ FormDialog::FormDialog(QWidget* parent, const char* objectName, const char* capt
     setWindowTitle(caption);
 }
 
-void FormDialog::Open() {
+void FormDialog::OpenOrRaise() {
     if (!isVisible()) {
         Load();
         show();

@@ -12,7 +12,7 @@ class FormDialog : public QDialog {
 
 public:
     // Raises the dialog if it is open already, without filling it again.
-    void Open();
+    void OpenOrRaise();
 
 protected:
     FormDialog(QWidget* parent, const char* objectName, const char* caption);

@@ -235,9 +235,9 @@ void MainWindow::PostCommand(Command command) {
 
 void MainWindow::RunOrOpenDialog(Command command) {
     if (command == Command::Grid)
-        frmDefineGrid->Open();
+        frmDefineGrid->OpenOrRaise();
     else if (command == Command::Players)
-        frmDefinePlayers->Open();
+        frmDefinePlayers->OpenOrRaise();
     else
         RunCommand(command);
     if (Game.ProgramEnding)

@@ -10,6 +10,7 @@ namespace {
 std::string waveFile;
 SDL_AudioDeviceID device = 0; // 0 = closed
 
+// NOLINTNEXTLINE(cert-dcl50-cpp): its library wants it variadic.
 void IgnoreAlsaError(const char* /*file*/, int /*line*/, const char* /*function*/, int /*error*/,
                      const char* /*format*/, ...) {}
 
