@@ -1,0 +1,57 @@
+// A desktop of its own for one test: a virtual screen with a window manager, the real program on
+// it, and a robot that presses keys and buttons and looks at pixels.
+#pragma once
+
+#include <sys/types.h>
+
+#include <filesystem>
+#include <functional>
+#include <optional>
+#include <string>
+
+struct ScreenPoint {
+    int X, Y;
+};
+
+struct ScreenArea {
+    int Left, Top, Width, Height;
+};
+
+class Robot {
+public:
+    // Starts screen, window manager and program, the latter in an empty directory.
+    Robot();
+    ~Robot();
+    Robot(const Robot&) = delete;
+    Robot& operator=(const Robot&) = delete;
+
+    // Presses keys like "ctrl+t", "Return" or "alt+y"; Type writes letters and digits.
+    void Press(const std::string& keys);
+    void Type(const std::string& text);
+    void MoveTo(ScreenPoint point);
+    void Click(ScreenPoint point);
+    void PressCloseBox(const std::string& windowTitle);
+
+    // 0xRRGGBB.
+    unsigned PixelAt(ScreenPoint point);
+
+    // Where the inside of the window of that title is, if it is shown.
+    std::optional<ScreenArea> FindWindow(const std::string& title);
+
+    // Waits for ten seconds at the most; a test goes on only if it came true.
+    bool WaitFor(const std::function<bool()>& condition);
+    bool WaitForWindow(const std::string& title);
+    bool WaitForNoWindow(const std::string& title);
+
+    // The exit status, or -1 when the program did not end within a second.
+    int WaitForExit();
+    std::string StandardError() const;
+    std::filesystem::path Directory() const { return ProgramDirectory; }
+
+private:
+    pid_t Start(std::initializer_list<const char*> words);
+
+    void* Screen = nullptr;
+    pid_t ScreenServer = -1, WindowManager = -1, Program = -1;
+    std::filesystem::path ProgramDirectory;
+};
