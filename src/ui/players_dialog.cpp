@@ -1,5 +1,6 @@
 #include "ui/players_dialog.h"
 
+#include <QButtonGroup>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QLabel>
@@ -7,6 +8,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QVBoxLayout>
+#include <array>
 
 #include "display/status_panel.h"
 #include "ui/swatch.h"
@@ -14,6 +16,7 @@
 namespace {
 
 constexpr int NameWidth = 180; // pixels
+constexpr int SwatchSpacing = 8;
 
 struct KindOption {
     Integer Kind;
@@ -26,6 +29,15 @@ constexpr std::array KindOptions{
     KindOption{ComputerAverage, "optPlayer%1Average", "Computer Average"},
     KindOption{ComputerIntelligent, "optPlayer%1Intelligent", "Computer Intelligent"},
     KindOption{ComputerCheat, "optPlayer%1Cheat", "Computer Cheat"}};
+
+// The Tab key goes to the option that is checked, and passes the others.
+void CheckKind(const QButtonGroup* kinds, int kind) {
+    for (QAbstractButton* option : kinds->buttons()) {
+        const bool isChosen = kinds->id(option) == kind;
+        option->setChecked(isChosen);
+        option->setFocusPolicy(isChosen ? Qt::StrongFocus : Qt::ClickFocus);
+    }
+}
 
 } // namespace
 
@@ -56,7 +68,9 @@ PlayersDialog::PlayerControls PlayersDialog::AddPlayer(QGridLayout* grid, int pl
     connect(button, &QPushButton::clicked, this,
             [swatch = controls.shpColor] { PickColor(swatch); });
 
+    controls.Kinds = new QButtonGroup(this);
     auto* color = new QHBoxLayout;
+    color->setSpacing(SwatchSpacing);
     color->addWidget(controls.shpColor);
     color->addWidget(button);
     color->addStretch();
@@ -64,18 +78,18 @@ PlayersDialog::PlayerControls PlayersDialog::AddPlayer(QGridLayout* grid, int pl
     grid->addWidget(label, 0, column);
     grid->addWidget(controls.txtName, 1, column);
     grid->addLayout(color, 2, column);
-    grid->addWidget(AddKinds(player, controls), 3, column);
+    grid->addWidget(AddKinds(player, controls.Kinds), 3, column);
     return controls;
 }
 
-QGroupBox* PlayersDialog::AddKinds(int player, PlayerControls& controls) {
+QGroupBox* PlayersDialog::AddKinds(int player, QButtonGroup* kinds) {
     auto* frame = new QGroupBox("Type of Player", this);
     frame->setObjectName(QString("fraPlayer%1SkillLevel").arg(player));
     auto* options = new QVBoxLayout(frame);
     for (const KindOption& kind : KindOptions) {
         auto* option = new QRadioButton(kind.Caption, frame);
         option->setObjectName(QString(kind.ObjectName).arg(player));
-        controls.optKinds.at(static_cast<std::size_t>(kind.Kind)) = option;
+        kinds->addButton(option, kind.Kind);
         options->addWidget(option);
     }
     return frame;
@@ -88,7 +102,7 @@ void PlayersDialog::Load() {
         controls.shpColor->SetFillColor(Game.PlayerColor.at(player));
         const Integer kind = Game.PlayerKind.at(player);
         const bool isKnown = kind >= Humanoid && kind <= ComputerCheat;
-        controls.optKinds.at(static_cast<std::size_t>(isKnown ? kind : Humanoid))->setChecked(true);
+        CheckKind(controls.Kinds, isKnown ? kind : Humanoid);
     }
     Players.at(1).txtName->setFocus();
     Players.at(1).txtName->selectAll();
@@ -100,9 +114,7 @@ void PlayersDialog::Store() {
         const PlayerControls& controls = Players.at(player);
         Game.PlayerName.at(player) = controls.txtName->text().toStdString();
         Game.PlayerColor.at(player) = controls.shpColor->FillColor();
-        for (const KindOption& kind : KindOptions)
-            if (controls.optKinds.at(static_cast<std::size_t>(kind.Kind))->isChecked())
-                Game.PlayerKind.at(player) = kind.Kind;
+        Game.PlayerKind.at(player) = ToInteger(controls.Kinds->checkedId());
     }
     ShowPlayerStatus(1);
     ShowPlayerStatus(2);

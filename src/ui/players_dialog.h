@@ -1,14 +1,12 @@
 // Sets the name, the colour and the kind of each player, also while a game is under way.
 #pragma once
 
-#include <array>
-
 #include "core/game_state.h"
 #include "ui/form_dialog.h"
 
+class QButtonGroup;
 class QGroupBox;
 class QLineEdit;
-class QRadioButton;
 class Swatch;
 
 class PlayersDialog : public FormDialog {
@@ -25,11 +23,11 @@ private:
     struct PlayerControls {
         QLineEdit* txtName;
         Swatch* shpColor;
-        std::array<QRadioButton*, 4> optKinds; // indexed by kind
+        QButtonGroup* Kinds; // the options by kind
     };
 
     PlayerControls AddPlayer(QGridLayout* grid, int player);
-    QGroupBox* AddKinds(int player, PlayerControls& controls);
+    QGroupBox* AddKinds(int player, QButtonGroup* kinds);
 
     PerPlayer<PlayerControls> Players;
 };

@@ -79,8 +79,8 @@ protected:
         return drawn;
     }
 
-    // Draws the line if it is the person's turn; waits until somebody has drawn it or it is
-    // refused.
+    // Draws the line if it is the person's turn, else waits until the computer has drawn it. A
+    // refused line is left for later.
     void PlayLine(ScreenPoint middle) {
         ASSERT_TRUE(Screen.WaitFor([&] {
             Screen.MoveTo({middle.X + 1, middle.Y + 1});
@@ -92,11 +92,14 @@ protected:
         Screen.Click(middle);
         ASSERT_TRUE(Screen.WaitFor(
             [&] { return IsDrawn(middle) || Screen.FindWindow("Illegal Move").has_value(); }));
-        if (!IsDrawn(middle))
+        if (IsDrawn(middle))
+            ++LinesOfPerson;
+        else
             Answer("Illegal Move", "Return");
     }
 
     Robot Screen;
+    int LinesOfPerson = 0;
 };
 
 TEST_F(Window, PlaysAWholeGameOfAPersonAgainstAComputerSetInTheDialogs) {
@@ -122,6 +125,7 @@ TEST_F(Window, PlaysAWholeGameOfAPersonAgainstAComputerSetInTheDialogs) {
         for (const ScreenPoint& middle : lines) {
             ASSERT_NO_FATAL_FAILURE(PlayLine(middle));
         }
+    EXPECT_GT(LinesOfPerson, 2);
 
     // The game is over: a new one begins with an empty field, and can be given up.
     Screen.Press("ctrl+t");
