@@ -13,6 +13,7 @@ void FitGridToPicture() {
 }
 
 void NewGame() {
+    ResetPointSpacing();
     FitGridToPicture();
     const int columns = std::max<int>(1, Game.GridColumns);
     const int rows = std::max<int>(1, Game.GridRows);

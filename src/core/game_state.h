@@ -114,6 +114,7 @@ struct GameState {
     bool QuitRequested = false; // the current game is to be abandoned
     bool GameOverShown = false; // the turn loop is showing the end of a game
     std::optional<Command> CommandAfterGameOver; // waits for that to stop
+    std::string GameToOpen;                      // the file that Command::Open opens
     bool ResizeWarningShown = false;
     bool ProgramEnding = false; // every wait and loop unwinds
 

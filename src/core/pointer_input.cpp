@@ -108,7 +108,7 @@ void ShowGhostLine(float x, float y) {
         return;
     EraseShownGhostLine();
     RestoreComputerLine();
-    if (PersonIsAwaited())
+    if (PersonIsAwaited() && TablesMatchField())
         PreviewLine(LineAt(x, y));
 }
 

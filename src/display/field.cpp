@@ -7,9 +7,7 @@
 
 namespace {
 
-int BoxesThatFit(int pictureSize, int spacing) {
-    return static_cast<int>(std::floor(static_cast<double>(pictureSize - spacing) / spacing));
-}
+constexpr int PixelsBetweenPoints = 25;
 
 Integer CentredStart(int pictureSize, int fieldSize) {
     return RoundToInteger((pictureSize - fieldSize) / 2.0);
@@ -48,17 +46,16 @@ void PlotPoints() {
             PlotPoint(x, y, Game.PointColor);
 }
 
-bool TablesMatchField() {
-    const int columns = FieldColumns();
-    const int rows = FieldRows();
-    return columns > 0 && rows > 0 && Game.BoxCount == columns * rows &&
-           Game.HorizontalLineCount == columns * (rows + 1) &&
-           Game.LineCount == Game.HorizontalLineCount + (columns + 1) * rows &&
-           Game.Boxes.size() == static_cast<std::size_t>(Game.BoxCount) + 1 &&
-           Game.Lines.size() == static_cast<std::size_t>(Game.LineCount) + 1;
+} // namespace
+
+void ResetPointSpacing() {
+    Game.PointSpacingX = ToInteger(PixelsBetweenPoints * Game.TwipsPerPixelX);
+    Game.PointSpacingY = ToInteger(PixelsBetweenPoints * Game.TwipsPerPixelY);
 }
 
-} // namespace
+int BoxesThatFit(int pictureSize, int spacing) {
+    return static_cast<int>(std::floor(static_cast<double>(pictureSize - spacing) / spacing));
+}
 
 int ColumnsThatFit() {
     return BoxesThatFit(PictureWidth(), Game.PointSpacingX);
@@ -74,6 +71,17 @@ int FieldColumns() {
 
 int FieldRows() {
     return Game.PointSpacingY > 0 ? (Game.FieldBottom - Game.FieldTop) / Game.PointSpacingY : 0;
+}
+
+bool TablesMatchField() {
+    const int columns = FieldColumns();
+    const int rows = FieldRows();
+    // The first comparisons keep the products below within an int.
+    return columns > 0 && columns <= Game.BoxCount && rows > 0 && rows <= Game.BoxCount &&
+           Game.BoxCount == columns * rows && Game.HorizontalLineCount == columns * (rows + 1) &&
+           Game.LineCount == Game.HorizontalLineCount + (columns + 1) * rows &&
+           Game.Boxes.size() == static_cast<std::size_t>(Game.BoxCount) + 1 &&
+           Game.Lines.size() == static_cast<std::size_t>(Game.LineCount) + 1;
 }
 
 void PlaceField(int columns, int rows) {

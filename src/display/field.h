@@ -3,7 +3,13 @@
 
 #include "platform/color.h"
 
-// How many boxes of the current spacing fit on the picture, with one spacing kept free as margin.
+// Puts neighbouring points 25 pixels apart, as in every new game; an opened one brings its own
+// spacing.
+void ResetPointSpacing();
+
+// How many boxes of `spacing` fit into a width or height of the picture, in twips, with one spacing
+// kept free as margin; and how many of the current spacing do.
+int BoxesThatFit(int pictureSize, int spacing);
 int ColumnsThatFit();
 int RowsThatFit();
 
@@ -11,6 +17,9 @@ int RowsThatFit();
 // next game and may differ. 0 while there is no field.
 int FieldColumns();
 int FieldRows();
+
+// Whether the counts and tables are those of a field of that size. A damaged file may leave others.
+bool TablesMatchField();
 
 // Sets the four edges of a field of so many boxes, centred on the picture.
 void PlaceField(int columns, int rows);

@@ -1,15 +1,19 @@
 #include "storage/configuration.h"
 
 #include <chrono>
+#include <exception>
+#include <utility>
 
 #include "core/game_state.h"
 #include "core/random.h"
+#include "display/field.h"
 #include "display/sound.h"
 #include "display/status_panel.h"
+#include "storage/value_file.h"
 
 namespace {
 
-constexpr int BoxPixels = 25; // between neighbouring points
+constexpr const char* FileName = "QUIBLNK.CFG";
 
 void SetBuiltInValues() {
     Game.CurrentPlayer = 1;
@@ -25,9 +29,26 @@ void SetBuiltInValues() {
     Game.PointColor = BrightWhite;
     Game.GridColumns = 10;
     Game.GridRows = 10;
-    Game.PointSpacingX = ToInteger(BoxPixels * Game.TwipsPerPixelX);
-    Game.PointSpacingY = ToInteger(BoxPixels * Game.TwipsPerPixelY);
+    ResetPointSpacing();
     Game.SoundOn = true;
+    Game.SettingsChanged = true;
+}
+
+// The values in the order of the file; `visit` reads or writes each of them.
+template <class Visit>
+void VisitSettings(GameState& game, Visit visit) {
+    visit(game.BackgroundColor);
+    visit(game.ComputerGhostColor);
+    visit(game.GhostColor);
+    visit(game.PointColor);
+    visit(game.GridColumns);
+    visit(game.GridRows);
+    for (const int player : {1, 2}) {
+        visit(game.PlayerColor.at(player));
+        visit(game.PlayerName.at(player));
+        visit(game.PlayerKind.at(player));
+    }
+    visit(game.SoundOn);
 }
 
 } // namespace
@@ -36,9 +57,31 @@ void SetDefaults() {
     SeedRandom(
         static_cast<std::uint64_t>(std::chrono::system_clock::now().time_since_epoch().count()));
     SetBuiltInValues();
+    ReadConfiguration();
     frmQuibsMain.picPlayingField.BackColor = Game.BackgroundColor;
     ShowPlayerColor(1);
     ShowPlayerColor(2);
     StateOf(Command::Sound).Checked = Game.SoundOn;
     FindOutcomeSounds();
+}
+
+void ReadConfiguration() {
+    try {
+        OpenForInput(FileName);
+        GameState withSettings = Game;
+        VisitSettings(withSettings, [](auto& value) { ReadValue(value); });
+        Game = std::move(withSettings);
+    } catch (const std::exception&) {
+        // Without a whole file the settings stay as they are.
+    }
+    CloseChannel();
+    Game.SettingsChanged = false;
+}
+
+void WriteConfiguration() {
+    if (!Game.SettingsChanged)
+        return;
+    std::string text;
+    VisitSettings(Game, [&text](const auto& value) { AppendValue(text, value); });
+    WriteFile(FileName, text);
 }

@@ -15,6 +15,7 @@
 #include "display/status_panel.h"
 #include "platform/desktop.h"
 #include "storage/configuration.h"
+#include "storage/saved_game.h"
 
 namespace {
 
@@ -34,10 +35,10 @@ void DrawGame() {
 }
 
 void SetUpAndPlay(Command command) {
-    if (command == Command::Draw) {
-        DrawGame();
-        return;
-    }
+    if (command == Command::Open)
+        return LoadGame(Game.GameToOpen);
+    if (command == Command::Draw)
+        return DrawGame();
     if (!Game.GamePaused)
         NewGame();
     if (command == Command::Auto)
@@ -45,9 +46,9 @@ void SetUpAndPlay(Command command) {
     PlayGame();
 }
 
-// Runs a command that needs the turn loop to itself. While the end of a game is being shown the
-// command is kept, the showing stops, and the call that shows it carries the command out when its
-// loop has unwound; so the stack stays as deep as one.
+// Runs a command that needs the board or the turn loop to itself. While the end of a game is being
+// shown the command is kept, the showing stops, and the call that shows it carries the command out
+// when its loop has unwound; so the stack stays as deep as one.
 void RunGameCommand(Command command) {
     if (Game.GameOverShown) {
         Game.CommandAfterGameOver = command;
@@ -68,6 +69,24 @@ void TakePauseBack() {
         EnterPhase(Phase::QuitPending);
     else
         EnterPhase(Game.MouseDownSeen ? Phase::ComputerToMove : Phase::PersonToMove);
+}
+
+// A damaged file may have left a board that cannot be drawn.
+bool FieldIsRedrawn() {
+    try {
+        return RedrawField();
+    } catch (const std::exception&) {
+        return false;
+    }
+}
+
+// The settings that cannot be written are lost; the program is ending anyway.
+void SaveSettings() {
+    try {
+        WriteConfiguration();
+    } catch (const std::exception&) {
+        return;
+    }
 }
 
 // Centred by hand for a box of 80 characters.
@@ -137,7 +156,7 @@ void Form_Load() {
 }
 
 bool Form_Resize() {
-    return !RedrawField() && (Game.GamePaused || Game.GameInPlay) && !Game.ResizeWarningShown;
+    return !FieldIsRedrawn() && (Game.GamePaused || Game.GameInPlay) && !Game.ResizeWarningShown;
 }
 
 void ShowResizeWarning() {
@@ -159,7 +178,27 @@ void mnuExit_Click() {
     if ((Game.GameInPlay || Game.GamePaused) &&
         !Confirms("A game is in progress, exit anyway?", "Exit the Game"))
         return;
+    SaveSettings();
     Form_Unload();
+}
+
+void OpenGame(const std::string& path) {
+    if (!IsEnabled(Command::Open) || Game.GameInPlay || Game.ProgramEnding)
+        return;
+    Game.GameToOpen = path;
+    RunGameCommand(Command::Open);
+}
+
+bool SaveGameAs(const std::string& directory, const std::string& name) {
+    if (!IsEnabled(Command::Save) || Game.ProgramEnding)
+        return true;
+    if (name.empty()) {
+        ShowMessageBox("File name must be specified.", "Quibs Game Save Error",
+                       MessageIcon::Exclamation, MessageButtons::Ok);
+        return false;
+    }
+    SaveGame(SavePath(directory, name));
+    return true;
 }
 
 void mnuStart_Click() {

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <functional>
+#include <string>
 
 #include "platform/controls.h"
 
@@ -35,6 +36,14 @@ void mnuPause_Click();
 void mnuQuit_Click();
 void mnuSound_Click();
 void mnuAbout_Click();
+
+// Ok of the open dialog, with the text of its path box as it stands. Does nothing when a game may
+// no longer be opened.
+void OpenGame(const std::string& path);
+
+// Ok of the save dialog, with the directory of its list and the name typed. False when the dialog
+// is to stay open because the name is missing.
+bool SaveGameAs(const std::string& directory, const std::string& name);
 
 // A press of any button on the field, and a move to (x, y) in twips.
 void picPlayingField_MouseDown();

@@ -1,0 +1,224 @@
+#include "storage/saved_game.h"
+
+#include <algorithm>
+#include <exception>
+#include <stdexcept>
+
+#include "core/file_exists.h"
+#include "core/game_state.h"
+#include "core/work_lists.h"
+#include "display/command_states.h"
+#include "display/field.h"
+#include "display/status_panel.h"
+#include "platform/desktop.h"
+#include "platform/picture.h"
+#include "storage/value_file.h"
+
+namespace {
+
+struct Grid {
+    Integer SpacingX = 0; // twips
+    Integer SpacingY = 0;
+    Integer Columns = 0;
+    Integer Rows = 0;
+};
+
+// The order of the values is told once; `visit` reads or writes each of them.
+template <class Visit>
+void VisitGrid(Grid& grid, Visit visit) {
+    visit(grid.SpacingX);
+    visit(grid.SpacingY);
+    visit(grid.Columns);
+    visit(grid.Rows);
+}
+
+template <class Visit>
+void VisitPlayersAndEdges(Visit visit) {
+    visit(Game.CurrentPlayer);
+    for (const int player : {1, 2}) {
+        visit(Game.PlayerColor.at(player));
+        visit(Game.PlayerName.at(player));
+        visit(Game.PlayerScore.at(player));
+        visit(Game.PlayerKind.at(player));
+    }
+    visit(Game.BoxesClaimed);
+    visit(Game.LinesDrawn);
+    visit(Game.FieldLeft);
+    visit(Game.FieldRight);
+    visit(Game.FieldTop);
+    visit(Game.FieldBottom);
+}
+
+template <class Visit>
+void VisitLineCounts(Visit visit) {
+    visit(Game.HorizontalLineCount);
+    visit(Game.VerticalLineCount);
+    visit(Game.LineCount);
+}
+
+template <class Visit>
+void VisitRow(Box& box, Visit visit) {
+    visit(box.SidesDrawn);
+    visit(box.Owner);
+    for (Integer& side : box.Sides)
+        visit(side);
+}
+
+template <class Visit>
+void VisitRow(Line& line, Visit visit) {
+    visit(line.Drawn);
+    visit(line.X);
+    visit(line.Y);
+    visit(line.FirstBox);
+    visit(line.SecondBox);
+}
+
+template <class Row, class Visit>
+void WriteTable(std::vector<Row>& table, int lastRow, Visit write) {
+    for (int row = 0; row <= lastRow; ++row)
+        VisitRow(table.at(static_cast<std::size_t>(row)), write);
+}
+
+// The columns and rows are those on the field; the settings may be meant for the next game.
+std::string GameAsText() {
+    std::string text;
+    const auto write = [&text](const auto& value) { AppendValue(text, value); };
+    Grid grid{Game.PointSpacingX, Game.PointSpacingY, ToInteger(FieldColumns()),
+              ToInteger(FieldRows())};
+    VisitGrid(grid, write);
+    VisitPlayersAndEdges(write);
+    write(Game.BoxCount);
+    WriteTable(Game.Boxes, Game.BoxCount, write);
+    VisitLineCounts(write);
+    WriteTable(Game.Lines, Game.LineCount, write);
+    return text;
+}
+
+constexpr auto Read = [](auto& value) { ReadValue(value); };
+
+// The table grows with what the file really holds, whatever count it claims.
+template <class Row>
+void ReadTable(std::vector<Row>& table, int lastRow) {
+    if (lastRow < 0)
+        throw std::runtime_error("a table cannot have so few rows");
+    table = std::vector<Row>(1);
+    VisitRow(table.front(), Read);
+    table.front() = Row{};
+    for (int row = 1; row <= lastRow; ++row)
+        VisitRow(table.emplace_back(), Read);
+}
+
+// Nothing may point into tables that are about to be replaced.
+void ForgetLines() {
+    Game.LastLine = 0;
+    Game.GhostLine = 0;
+    Game.ComputerGhostLine = 0;
+    Game.ChosenLine = 0;
+}
+
+void ReadGame(const Grid& grid) {
+    ForgetLines();
+    Game.PointSpacingX = grid.SpacingX;
+    Game.PointSpacingY = grid.SpacingY;
+    Game.GridColumns = grid.Columns;
+    Game.GridRows = grid.Rows;
+    VisitPlayersAndEdges(Read);
+    Read(Game.BoxCount);
+    ReadTable(Game.Boxes, Game.BoxCount);
+    VisitLineCounts(Read);
+    ReadTable(Game.Lines, Game.LineCount);
+    SizeWorkLists();
+}
+
+void ShowLoadedGame() {
+    RedrawField();
+    ShowPlayerStatus(1);
+    ShowPlayerStatus(2);
+    ShowLinesStatus();
+    ShowBoxesStatus();
+    Game.GamePaused = true;
+    ShowAllMarkers(false);
+    ShowGamePaused();
+    EnterPhase(Phase::Prepared);
+}
+
+Grid ReadGrid() {
+    Grid grid;
+    VisitGrid(grid, Read);
+    if (grid.SpacingX <= 0 || grid.SpacingY <= 0)
+        throw std::runtime_error("points cannot lie so close together");
+    return grid;
+}
+
+bool FitsOnPicture(const Grid& grid) {
+    return grid.Columns <= BoxesThatFit(PictureWidth(), grid.SpacingX) &&
+           grid.Rows <= BoxesThatFit(PictureHeight(), grid.SpacingY);
+}
+
+bool MayReplace(const std::string& path) {
+    return ShowMessageBox(path + " already exists.\r\n\nDo you want to replace it?",
+                          "Quibs Game Save Error", MessageIcon::Exclamation,
+                          MessageButtons::YesNo) == MessageAnswer::Yes;
+}
+
+// Where the last `count` characters of UTF-8 begin; npos when there are fewer.
+std::size_t LastCharacters(const std::string& text, int count) {
+    for (std::size_t position = text.size(); position > 0;) {
+        --position;
+        const bool beginsCharacter = (static_cast<unsigned char>(text.at(position)) & 0xC0) != 0x80;
+        if (beginsCharacter && --count == 0)
+            return position;
+    }
+    return std::string::npos;
+}
+
+bool IsGameExtension(std::string extension) {
+    std::transform(extension.begin(), extension.end(), extension.begin(), [](char letter) {
+        return letter >= 'a' && letter <= 'z' ? letter - 32 : letter;
+    });
+    return extension == ".QBS";
+}
+
+} // namespace
+
+void SaveGame(const std::string& path) {
+    if (FileExists(path) && !MayReplace(path))
+        return;
+    try {
+        WriteFile(path, GameAsText());
+    } catch (const std::exception&) {
+        // Told to nobody; the file channel may stay taken.
+    }
+}
+
+void LoadGame(const std::string& path) {
+    try {
+        OpenForInput(path);
+        const Grid grid = ReadGrid();
+        if (!FitsOnPicture(grid)) {
+            CloseChannel();
+            ShowMessageBox("Window size is not large enough for:\r\n\n" + path,
+                           "Quibs Game Load Error", MessageIcon::Exclamation, MessageButtons::Ok);
+            return;
+        }
+        ReadGame(grid);
+        CloseChannel();
+        ShowLoadedGame();
+    } catch (const std::exception&) {
+        // Told to nobody; the file channel may stay taken.
+    }
+}
+
+std::string SavePath(const std::string& directory, const std::string& name) {
+    constexpr int extensionLength = 4; // with its point
+    std::string path = directory + "/" + name;
+    const std::size_t lastFour = LastCharacters(path, extensionLength);
+    const bool hasExtension = lastFour != std::string::npos && path.at(lastFour) == '.' &&
+                              path.find('/', lastFour) == std::string::npos;
+    if (hasExtension) {
+        if (IsGameExtension(path.substr(lastFour)))
+            return path;
+        path.resize(lastFour);
+    }
+    return path + ".qbs";
+}
