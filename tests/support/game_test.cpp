@@ -57,7 +57,7 @@ void SetUpGame(int columns, int rows, Integer firstKind, Integer secondKind) {
     Game.GameInPlay = true;
 }
 
-void DrawForNobody(std::initializer_list<int> lines) {
+void DrawForNobody(const std::vector<int>& lines) {
     for (const int number : lines) {
         Line& line = Game.Lines.at(number);
         line.Drawn = ToInteger(number);

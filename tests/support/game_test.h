@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-#include <initializer_list>
+#include <vector>
 
 #include "core/game_state.h"
 #include "platform/null/null_desktop.h"
@@ -18,7 +18,7 @@ void StartFresh();
 void SetUpGame(int columns, int rows, Integer firstKind, Integer secondKind);
 
 // Draws lines for nobody: sides count, complete boxes go to player 1.
-void DrawForNobody(std::initializer_list<int> lines);
+void DrawForNobody(const std::vector<int>& lines);
 
 class GameTest : public ::testing::Test {
 protected:

@@ -1,0 +1,130 @@
+// Which line a computer chooses.
+#include "ai/move_selection.h"
+
+#include <map>
+
+#include "core/random.h"
+#include "support/game_test.h"
+#include "support/person.h"
+
+namespace {
+
+constexpr Integer AllKinds[] = {Humanoid, ComputerAverage, ComputerIntelligent, ComputerCheat};
+
+class MoveSelection : public GameTest {
+protected:
+    // How often each line is chosen of so many times.
+    static std::map<int, int> Count(int times) {
+        std::map<int, int> counts;
+        for (; times > 0; --times) {
+            Game.ChosenLine = 0;
+            ChooseComputerMove();
+            ++counts[Game.ChosenLine];
+        }
+        return counts;
+    }
+};
+
+TEST_F(MoveSelection, BeginsWithAnyLineAlike) {
+    for (const Integer kind : AllKinds) {
+        SetUpGame(3, 2, kind, Humanoid);
+        const auto counts = Count(1700);
+        ASSERT_EQ(counts.size(), 17U);
+        for (const auto& [line, count] : counts)
+            EXPECT_NEAR(count, 100, 40) << "line " << line;
+        EXPECT_EQ(TheNullDesktop.Yields, 0);
+    }
+}
+
+TEST_F(MoveSelection, NeverTakesARiskyLineWhileASafeOneIsLeft) {
+    // A border line is risky beside two sides and safe beside one.
+    SetUpGame(2, 1, ComputerAverage, Humanoid);
+    DrawForNobody({1, 3, 2});
+    const auto counts = Count(200);
+    EXPECT_EQ(counts.size(), 2U);
+    EXPECT_EQ(counts.count(4) + counts.count(7), 2U);
+}
+
+TEST_F(MoveSelection, TakesTheWholeRunFromTheLowestBoxWithAPauseBeforeAndAfterEachLine) {
+    for (const Integer kind : {ComputerAverage, ComputerIntelligent}) {
+        SetUpGame(3, 2, kind, Humanoid);
+        DrawForNobody({4, 5, 6, 7, 8, 9, 11, 1, 3, 10}); // boxes 1 and 4 can be taken
+        ResetNullDesktop();
+        ChooseComputerMove();
+        EXPECT_EQ(Game.ChosenLine, 12);
+        EXPECT_NEAR(TheNullDesktop.SecondsWaited, 0.25, 0.02);
+        DrawForNobody({12});
+        Game.ChosenLine = 0;
+        ChooseComputerMove();
+        EXPECT_EQ(Game.ChosenLine, 17) << "13 and 15 are drawn, the caller draws the last";
+        EXPECT_NE(Game.Lines.at(13).Drawn * Game.Lines.at(15).Drawn, 0);
+        EXPECT_EQ(Game.LinesDrawn, 13);
+        EXPECT_NEAR(TheNullDesktop.SecondsWaited, 1.0, 0.05);
+    }
+}
+
+TEST_F(MoveSelection, GivesAwayTheFewestBoxesWithEqualChance) {
+    // On 5 by 1 boxes giveaways of one box at either end and one of three between them.
+    for (const Integer kind : {Humanoid, ComputerAverage}) {
+        SetUpGame(5, 1, kind, Humanoid);
+        DrawForNobody({1, 2, 3, 4, 5, 8, 12, 15});
+        Game.HintMode = kind == Humanoid;
+        const auto counts = Count(400);
+        EXPECT_EQ(counts.size(), 4U);
+        for (const int line : {6, 11, 10, 16})
+            EXPECT_NEAR(counts.at(line), 100, 40) << "line " << line;
+        Game.HintMode = false;
+    }
+}
+
+TEST_F(MoveSelection, GivesTwoBoxesAwayByTheLineBetweenThemIfStrong) {
+    for (const auto& [columns, between] : {std::pair{2, 6}, {1, 2}}) {
+        for (const Integer kind : AllKinds) {
+            SetUpGame(columns, 3 - columns, kind, Humanoid);
+            DrawForNobody(columns == 2 ? std::vector{1, 2, 3, 4} : std::vector{4, 5, 6, 7});
+            ResetNullDesktop();
+            Game.HintMode = kind == Humanoid;
+            const auto counts = Count(60);
+            const bool isStrong = kind >= ComputerIntelligent;
+            EXPECT_EQ(counts.size(), isStrong ? 1U : 3U);
+            EXPECT_EQ(counts.count(between), 1U);
+            const double pause = kind == Humanoid ? 0 : isStrong ? 0.75 : 0.25;
+            EXPECT_NEAR(TheNullDesktop.SecondsWaited, 60 * pause, 60 * 0.02);
+            Game.HintMode = false;
+        }
+    }
+}
+
+TEST_F(MoveSelection, EndsEveryTurnOfEveryKindWithAnUndrawnLineAndNeverPassesItInARun) {
+    int runs = 0;
+    for (const auto& [columns, rows] :
+         {std::pair{3, 2}, {2, 5}, {4, 2}, {1, 6}, {5, 1}, {1, 1}, {2, 2}, {7, 4}, {4, 4}}) {
+        for (std::uint32_t seed = 1; seed <= 250; ++seed) {
+            for (const Integer kind : AllKinds) {
+                SetUpGame(columns, rows, kind, ComputerAverage);
+                DrawRandomPosition(seed);
+                if (seed % 10 == 0)
+                    Game.LastLine = 0; // as after a load
+                const GameState before = Game;
+                const std::size_t drawings = TheNullDesktop.Drawings.size();
+                Game.HintMode = seed % 3 == 0 || kind == Humanoid;
+                ASSERT_NO_THROW(ChooseComputerMove()) << columns << " by " << rows << " " << seed;
+                const bool isFull = Game.BoxesClaimed == Game.BoxCount;
+                ASSERT_EQ(Game.ChosenLine == 0, isFull) << columns << " by " << rows << " " << seed;
+                ASSERT_EQ(Game.Lines.at(Game.ChosenLine).Drawn, 0);
+                ASSERT_EQ(Game.CurrentPlayer, 1) << "kind " << kind << ", seed " << seed;
+                ASSERT_TRUE(BoardIsSound());
+                runs += Game.LinesDrawn > before.LinesDrawn + 1 ? 1 : 0;
+                if (!Game.HintMode)
+                    continue;
+                Game.ChosenLine = before.ChosenLine;
+                Game.HintMode = false;
+                ASSERT_TRUE(Game == before) << "a hint leaves the game alone";
+                ASSERT_EQ(TheNullDesktop.Drawings.size(), drawings);
+            }
+        }
+    }
+    EXPECT_GT(runs, 500) << "the positions must be worth taking";
+}
+
+} // namespace

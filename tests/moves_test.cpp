@@ -1,0 +1,140 @@
+// What one drawn line changes, and which lines a person may draw.
+#include "core/moves.h"
+
+#include "support/game_test.h"
+#include "support/sound_files.h"
+
+namespace {
+
+class Moves : public GameTest {
+protected:
+    static void Draw(int line) {
+        Game.ChosenLine = ToInteger(line);
+        ApplyMove();
+    }
+};
+
+TEST_F(Moves, ThatGiveABoxAwayBesideATakeableOneAreRefusedAgainstTwoKindsOnly) {
+    // On 3 by 1 boxes lines 1 to 3 lie on top, 4 to 6 below, and 7 to 10 stand from the left; on 1
+    // by 3 lines 1 to 4 lie from the top, 5 to 7 stand on the left and 8 to 10 on the right.
+    const struct {
+        const char* Story;
+        int Columns, Rows;
+        std::vector<int> Drawn;
+        int Line;
+        bool IsLegal;
+    } cases[] = {
+        {"away from a takeable box", 3, 1, {1, 4, 7, 2, 5}, 9, false},
+        {"the same from top to bottom", 1, 3, {1, 5, 8, 6, 9}, 3, false},
+        {"on the border", 3, 1, {1, 4, 7, 2, 9}, 5, false},
+        {"given is the second box", 3, 1, {3, 6, 10, 2, 5}, 8, false},
+        {"only the first of two given boxes counts", 3, 1, {3, 6, 10, 2, 5, 1, 7}, 8, true},
+        {"takes the box", 3, 1, {1, 4, 7, 2, 5}, 8, true},
+        {"takes the box and gives the next", 1, 3, {1, 5, 8, 6, 9}, 2, true},
+        {"no box behind can be taken", 3, 1, {1, 4, 2, 5}, 9, true},
+        {"gives nothing", 3, 1, {1, 4, 7, 2}, 9, true},
+        {"the border is behind", 3, 1, {3, 6, 10, 1, 7}, 4, true},
+    };
+    TheNullDesktop.Answers.assign(100, MessageAnswer::Ok);
+    for (const int mover : {1, 2}) {
+        for (const Integer opponent :
+             {Humanoid, ComputerAverage, ComputerIntelligent, ComputerCheat}) {
+            for (const auto& c : cases) {
+                SetUpGame(c.Columns, c.Rows, Humanoid, Humanoid);
+                DrawForNobody(c.Drawn);
+                Game.CurrentPlayer = ToInteger(mover);
+                Game.PlayerKind.at(OtherPlayer(mover)) = opponent;
+                Game.ChosenLine = ToInteger(c.Line);
+                const bool isFree = opponent == Humanoid || opponent == ComputerCheat;
+                EXPECT_EQ(IsLegalMove(), isFree || c.IsLegal)
+                    << c.Story << " against " << opponent << " by " << mover;
+            }
+        }
+    }
+}
+
+TEST_F(Moves, OfAPersonThatAreRefusedChangeNothingButThePreview) {
+    SetUpGame(3, 1, Humanoid, ComputerAverage);
+    DrawForNobody({1, 4, 7, 2, 5});
+    Game.ChosenLine = 9;
+    const GameState before = Game;
+    TheNullDesktop.Answers = {MessageAnswer::Ok};
+    ApplyMove();
+    EXPECT_TRUE(Game == before);
+    const MessageBox& box = TheNullDesktop.Boxes.at(0);
+    EXPECT_EQ(box.Text,
+              "Not a legal move, only legal when opponent is Humanoid or Computer Cheat.");
+    EXPECT_EQ(box.Title, "Illegal Move");
+    EXPECT_EQ(box.Icon, MessageIcon::Exclamation);
+    EXPECT_EQ(box.Buttons, MessageButtons::Ok);
+    const int x = Game.FieldLeft + 2 * 375;
+    EXPECT_EQ(TheNullDesktop.Drawings.back(),
+              (Drawing{Drawing::Kind::Erasure, x, Game.FieldTop + 15, x, Game.FieldTop + 360, 0}));
+    Game.PlayerKind.at(1) = ComputerAverage;
+    ApplyMove();
+    EXPECT_EQ(Game.LastLine, 9) << "a computer is never refused";
+    EXPECT_EQ(TheNullDesktop.Boxes.size(), 1U);
+}
+
+TEST_F(Moves, ThatCloseTwoBoxesScoreTwoAndKeepTheTurn) {
+    SetUpGame(2, 1, ComputerAverage, Humanoid);
+    DrawForNobody({1, 2, 3, 4, 5, 7});
+    Game.CurrentPlayer = 2;
+    frmQuibsMain.lblPlayer2Active.Caption = "Guardian's Turn";
+    frmQuibsMain.shpPlayer2Active.Visible = true;
+    Draw(6);
+    EXPECT_TRUE(BoardIsSound());
+    EXPECT_EQ(Game.PlayerScore.at(2), 2);
+    EXPECT_EQ(Game.CurrentPlayer, 2);
+    EXPECT_EQ(frmQuibsMain.txtPlayer2Status.Text, "Guardian:     2     Humanoid");
+    EXPECT_EQ(frmQuibsMain.txtBoxesStatus.Text, "Boxes:     2 of     2");
+    EXPECT_EQ(frmQuibsMain.txtLinesStatus.Text, "Lines:     7 of     7");
+    EXPECT_EQ(frmQuibsMain.lblPlayer2Active.Caption, "") << "the board is full";
+    EXPECT_FALSE(frmQuibsMain.shpPlayer2Active.Visible);
+    EXPECT_EQ(TheNullDesktop.Yields, 0);
+    EXPECT_TRUE(TheNullDesktop.Sounds.empty());
+    EXPECT_EQ(TheNullDesktop.Drawings.back().DrawnColor, BrightWhite);
+}
+
+TEST_F(Moves, ThatPassTheTurnClickAndShineOnlyFromComputerToPerson) {
+    const SoundFiles files({"SndClick.wav"});
+    for (const Integer mover : {Humanoid, ComputerAverage, ComputerCheat}) {
+        for (const Integer opponent : {Humanoid, ComputerIntelligent}) {
+            StartFresh();
+            SetUpGame(3, 2, mover, opponent);
+            Draw(5);
+            const bool isTold = mover != Humanoid && opponent == Humanoid;
+            EXPECT_EQ(Game.CurrentPlayer, 2);
+            EXPECT_EQ(frmQuibsMain.lblPlayer2Active.Caption, "Guardian's Turn");
+            EXPECT_EQ(Game.ComputerGhostLine, isTold ? 5 : 0);
+            EXPECT_EQ(TheNullDesktop.Drawings.back().DrawnColor, isTold ? LightGreen : BrightWhite);
+            EXPECT_EQ(TheNullDesktop.Sounds.size(), isTold ? 3U : 1U);
+            EXPECT_EQ(TheNullDesktop.Sounds.back(), "Close");
+            EXPECT_NEAR(TheNullDesktop.SecondsWaited, 0.5, 0.02);
+            if (!isTold)
+                continue;
+            Game.CurrentPlayer = 1;
+            Draw(1);
+            const auto& drawings = TheNullDesktop.Drawings;
+            EXPECT_EQ(drawings.at(drawings.size() - 2).DrawnColor, BrightWhite)
+                << "the former highlight goes";
+            EXPECT_EQ(Game.ComputerGhostLine, 1);
+        }
+    }
+}
+
+TEST_F(Moves, ThatCannotBeAreErrors) {
+    SetUpGame(3, 2, ComputerAverage, Humanoid);
+    DrawForNobody({1});
+    for (const int line : {0, 1})
+        EXPECT_THROW(Draw(line), std::logic_error) << line;
+    for (const int line : {-1, 18})
+        EXPECT_THROW(Draw(line), std::out_of_range) << line;
+    EXPECT_TRUE(BoardIsSound());
+    DrawForNobody({4, 10});
+    Game.PlayerScore.at(1) = 32767;
+    EXPECT_THROW(Draw(12), std::overflow_error);
+    EXPECT_EQ(Game.PlayerScore.at(1), 32767) << "nothing wraps";
+}
+
+} // namespace
