@@ -29,18 +29,21 @@ void FormDialog::SetContent(QLayout* content) {
     cmdCancel->setObjectName("cmdCancel");
     cmdCancel->setAutoDefault(false);
     connect(cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
-    connect(cmdOk, &QPushButton::clicked, this, [this] {
-        RunGuarded([this] { Store(); });
-        accept();
-    });
+    connect(cmdOk, &QPushButton::clicked, this, &FormDialog::Ok);
 
     auto* buttons = new QHBoxLayout;
     buttons->addStretch();
     buttons->addWidget(cmdOk);
     buttons->addWidget(cmdCancel);
     auto* all = new QVBoxLayout(this);
-    all->setSizeConstraint(QLayout::SetFixedSize);
     all->setSpacing(16);
     all->addLayout(content);
     all->addLayout(buttons);
+}
+
+void FormDialog::Ok() {
+    bool isDone = true;
+    RunGuarded([&] { isDone = Store(); });
+    if (isDone)
+        accept();
 }

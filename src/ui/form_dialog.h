@@ -19,10 +19,11 @@ protected:
 
     // Lays `content` out above the buttons "Ok" and "Cancel".
     void SetContent(QLayout* content);
+    void Ok();
 
     // Fills the controls from the game.
     virtual void Load() = 0;
 
-    // Writes the controls' choices into the game.
-    virtual void Store() = 0;
+    // Ok: carries out what the controls say. Returns false when the dialog is to stay open.
+    virtual bool Store() = 0;
 };

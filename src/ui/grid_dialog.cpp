@@ -45,6 +45,7 @@ GridDialog::GridDialog(QWidget* parent)
     shpGridComputer = AddColor(grid, 6, "GridComputer", "Color of Computer Ghost Line");
     grid->setColumnStretch(0, 1);
     SetContent(grid);
+    layout()->setSizeConstraint(QLayout::SetFixedSize);
 }
 
 QComboBox* GridDialog::AddBoxCount(QGridLayout* grid, int row, const char* name,
@@ -86,7 +87,7 @@ void GridDialog::Load() {
     comFieldBoxesHorz->setFocus();
 }
 
-void GridDialog::Store() {
+bool GridDialog::Store() {
     Game.SettingsChanged = true;
     Game.BackgroundColor = shpGridBckGrnd->FillColor();
     frmQuibsMain.picPlayingField.BackColor = Game.BackgroundColor;
@@ -95,4 +96,5 @@ void GridDialog::Store() {
     Game.PointColor = shpGridLine->FillColor();
     StoreBoxCount(comFieldBoxesHorz, Game.GridColumns);
     StoreBoxCount(comFieldBoxesVert, Game.GridRows);
+    return true;
 }

@@ -16,7 +16,7 @@ public:
 
 protected:
     void Load() override;
-    void Store() override;
+    bool Store() override;
 
 private:
     QComboBox* AddBoxCount(QGridLayout* grid, int row, const char* name, const char* caption);

@@ -13,6 +13,7 @@
 #include "platform/qt/field_picture.h"
 #include "platform/qt/qt_desktop.h"
 #include "ui/commands.h"
+#include "ui/file_dialogs.h"
 #include "ui/grid_dialog.h"
 #include "ui/players_dialog.h"
 #include "ui/playing_field.h"
@@ -42,6 +43,7 @@ QRect ToPixels(const Rectangle& twips) {
 MainWindow::MainWindow()
     : tbrToolBar(new QToolBar(this)), ClientArea(new QWidget(this)),
       picPlayingField(new PlayingField(ClientArea)), fraStatistics(new StatusFrame(ClientArea)),
+      frmFileOpen(new OpenDialog(this)), frmFileSave(new SaveDialog(this)),
       frmDefineGrid(new GridDialog(this)), frmDefinePlayers(new PlayersDialog(this)) {
     setObjectName("frmQuibsMain");
     setWindowTitle("Quiblink");
@@ -223,6 +225,11 @@ void MainWindow::ShowControls() {
         if (Actions.at(i)->isCheckable())
             Actions.at(i)->setChecked(Shown.Commands.at(i).Checked);
     }
+    // A game may neither be opened nor saved any more: a dialog left open must not do it either.
+    if (!IsEnabled(Command::Open))
+        frmFileOpen->reject();
+    if (!IsEnabled(Command::Save))
+        frmFileSave->reject();
     picPlayingField->ShowControls();
     fraStatistics->ShowControls();
 }
@@ -234,12 +241,20 @@ void MainWindow::PostCommand(Command command) {
 }
 
 void MainWindow::RunOrOpenDialog(Command command) {
-    if (command == Command::Grid)
-        frmDefineGrid->OpenOrRaise();
-    else if (command == Command::Players)
-        frmDefinePlayers->OpenOrRaise();
-    else
+    if (!IsEnabled(command))
+        return;
+    switch (command) {
+    case Command::Open:
+        return frmFileOpen->OpenOrRaise();
+    case Command::Save:
+        return frmFileSave->OpenOrRaise();
+    case Command::Grid:
+        return frmDefineGrid->OpenOrRaise();
+    case Command::Players:
+        return frmDefinePlayers->OpenOrRaise();
+    default:
         RunCommand(command);
+    }
     if (Game.ProgramEnding)
         EndProgram();
 }

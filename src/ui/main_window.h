@@ -7,8 +7,7 @@
 
 #include "platform/controls.h"
 
-class GridDialog;
-class PlayersDialog;
+class FormDialog;
 class PlayingField;
 class QAction;
 class QMenu;
@@ -52,7 +51,9 @@ private:
     QWidget* ClientArea;
     PlayingField* picPlayingField;
     StatusFrame* fraStatistics;
-    GridDialog* frmDefineGrid;
-    PlayersDialog* frmDefinePlayers;
+    FormDialog* frmFileOpen;
+    FormDialog* frmFileSave;
+    FormDialog* frmDefineGrid;
+    FormDialog* frmDefinePlayers;
     MainWindowControls Shown;
 };

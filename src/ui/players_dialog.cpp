@@ -48,6 +48,7 @@ PlayersDialog::PlayersDialog(QWidget* parent)
     Players.at(1) = AddPlayer(grid, 1);
     Players.at(2) = AddPlayer(grid, 2);
     SetContent(grid);
+    layout()->setSizeConstraint(QLayout::SetFixedSize);
 }
 
 PlayersDialog::PlayerControls PlayersDialog::AddPlayer(QGridLayout* grid, int player) {
@@ -108,7 +109,7 @@ void PlayersDialog::Load() {
     Players.at(1).txtName->selectAll();
 }
 
-void PlayersDialog::Store() {
+bool PlayersDialog::Store() {
     Game.SettingsChanged = true;
     for (const int player : {1, 2}) {
         const PlayerControls& controls = Players.at(player);
@@ -118,4 +119,5 @@ void PlayersDialog::Store() {
     }
     ShowPlayerStatus(1);
     ShowPlayerStatus(2);
+    return true;
 }

@@ -17,7 +17,7 @@ public:
 
 protected:
     void Load() override;
-    void Store() override;
+    bool Store() override;
 
 private:
     struct PlayerControls {

@@ -1,0 +1,20 @@
+// Shows the help or the history document of the current directory.
+#pragma once
+
+#include <QDialog>
+
+class QTextBrowser;
+
+class HelpViewer : public QDialog {
+    Q_OBJECT
+
+public:
+    explicit HelpViewer(QWidget* parent);
+
+    // Loads the document that `ShowHistory` asks for and raises the viewer. A missing document
+    // leaves it empty.
+    void OpenOrRaise();
+
+private:
+    QTextBrowser* rtfHelp;
+};
