@@ -37,7 +37,6 @@ StatusFrame::StatusFrame(QWidget* parent)
       shpPlayer3Active(new Swatch("shpPlayer3Active", "Game over", this)),
       shpPlayer4Active(new Swatch("shpPlayer4Active", "Game over", this)) {
     setObjectName("fraStatistics");
-    setFrameStyle(QFrame::StyledPanel | QFrame::Plain);
     auto* grid = new QGridLayout(this);
     grid->setContentsMargins(10, 8, 10, 8);
     grid->setHorizontalSpacing(10);

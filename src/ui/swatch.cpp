@@ -27,9 +27,8 @@ void Swatch::paintEvent(QPaintEvent* /*event*/) {
     if (!Shown.Visible)
         return;
     QPainter painter(this);
-    painter.setPen(palette().color(QPalette::PlaceholderText));
-    painter.setBrush(ToQColor(Shown.FillColor));
-    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    painter.fillRect(rect(), palette().color(QPalette::PlaceholderText));
+    painter.fillRect(rect().adjusted(1, 1, -1, -1), ToQColor(Shown.FillColor));
 }
 
 void PickColor(Swatch* swatch) {
