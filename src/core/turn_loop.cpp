@@ -92,9 +92,10 @@ LoopEnd PlayTurns() {
     if (Game.QuitRequested)
         return LoopEnd::Quit;
     while (Game.BoxesClaimed < Game.BoxCount) {
+        if (!Game.ProgramEnding)
+            NextTurn();
         if (Game.ProgramEnding)
             return LoopEnd::ProgramEnding;
-        NextTurn();
         if (Game.QuitRequested)
             return LoopEnd::Quit;
         if (Game.GamePaused)
