@@ -156,6 +156,8 @@ void AbandonGame() {
     Game.GameInPlay = false;
     Game.GamePaused = false;
     Game.QuitRequested = false;
+    Game.GameOverShown = false;
+    Game.CommandAfterGameOver.reset();
     ShowCaptions("", "");
     ForgetTurn();
     Game.PlayerScore = {};
