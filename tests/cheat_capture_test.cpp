@@ -40,6 +40,9 @@ TEST_F(CheatCapture, TakesOrDeclinesAsWorkedOutByHand) {
     // A ring of eight boxes round a complete one, at the left of 4 by 3 boxes.
     const std::vector<int> ring{1, 2, 3, 13, 14, 15, 17, 18, 19, 26, 27, 28, 6, 10, 21, 24, 20};
     const std::vector<int> rest{4, 8, 12, 16, 29, 30, 31}; // all else of that board
+    // A ring whose short walk takes boxes only once the long one has passed their junction.
+    const std::vector<int> junction{1, 2, 3, 4, 6, 8, 9, 10, 11, 13, 14, 19, 21, 22, 16};
+    const std::vector<int> two{1, 2, 3, 4, 5, 6, 13, 7, 8, 9, 10, 11, 12, 15}; // open chains
     const struct {
         const char* Story;
         int Columns, Rows;
@@ -55,27 +58,12 @@ TEST_F(CheatCapture, TakesOrDeclinesAsWorkedOutByHand) {
         {"five boxes of a longer game", 5, 2, row + std::vector{16}, {18, 20, 22}, 26},
         {"the short walk right, the long one left", 5, 2, row + std::vector{24}, {26, 22, 20}, 16},
         {"the short walk left, the long one right", 5, 2, row + std::vector{18}, {16, 20, 22}, 26},
-        {"as many either way: the left one first",
-         4,
-         2,
-         {1, 2, 3, 4, 5, 6, 7, 8, 17},
-         {15, 13},
-         21},
+        {"as many each way, the left first", 4, 2, {1, 2, 3, 4, 5, 6, 7, 8, 17}, {15, 13}, 21},
         {"a loop of a longer game", 4, 3, ring, {5, 9, 22, 25}, 7},
         {"a loop that ends the game", 4, 3, rest + ring, {5, 9, 22, 25, 11, 7}, 23},
-        {"a short walk that only leads on where the long one has passed",
-         4,
-         2,
-         {1, 2, 3, 4, 6, 8, 9, 10, 11, 13, 14, 19, 21, 22, 16},
-         {5, 15, 17, 7, 18, 20},
-         12},
+        {"a short walk through a junction", 4, 2, junction, {5, 15, 17, 7, 18, 20}, 12},
         {"a chain that was open before", 3, 3, {1, 2, 3, 4, 5, 6, 13, 12}, {16, 19, 22}, 22},
-        {"first the chain that was open before, then the new one",
-         3,
-         3,
-         {1, 2, 3, 4, 5, 6, 13, 7, 8, 9, 10, 11, 12, 15},
-         {16, 19, 22, 18},
-         24},
+        {"first the older chain, then the new one", 3, 3, two, {16, 19, 22, 18}, 24},
     };
     for (const auto& c : cases) {
         SetUpForTheCheat(c.Columns, c.Rows, c.Drawn);

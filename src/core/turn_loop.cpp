@@ -92,9 +92,10 @@ LoopEnd PlayTurns() {
     if (Game.QuitRequested)
         return LoopEnd::Quit;
     while (Game.BoxesClaimed < Game.BoxCount) {
+        if (!Game.ProgramEnding)
+            NextTurn();
         if (Game.ProgramEnding)
             return LoopEnd::ProgramEnding;
-        NextTurn();
         if (Game.QuitRequested)
             return LoopEnd::Quit;
         if (Game.GamePaused)
@@ -155,6 +156,8 @@ void AbandonGame() {
     Game.GameInPlay = false;
     Game.GamePaused = false;
     Game.QuitRequested = false;
+    Game.GameOverShown = false;
+    Game.CommandAfterGameOver.reset();
     ShowCaptions("", "");
     ForgetTurn();
     Game.PlayerScore = {};

@@ -219,7 +219,7 @@ void mnuDraw_Click() {
 }
 
 void mnuExchange_Click() {
-    if (Game.GameInPlay || !IsPlayer(Game.CurrentPlayer))
+    if (Game.GameInPlay || !Game.GamePaused || !IsPlayer(Game.CurrentPlayer))
         return;
     Game.CurrentPlayer = ToInteger(OtherPlayer(Game.CurrentPlayer));
     frmQuibsMain.lblPlayer1Active.Caption = TurnText(Game.CurrentPlayer);

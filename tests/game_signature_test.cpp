@@ -1,0 +1,75 @@
+// One number for all behaviour: a hash over every drawing and every text of many whole games.
+#include <cstdint>
+#include <fstream>
+
+#include "core/random.h"
+#include "support/game_test.h"
+#include "ui/commands.h"
+
+namespace {
+
+class Fnv1a {
+public:
+    void Add(const std::string& text) {
+        for (const char c : text + '\n')
+            Hash = (Hash ^ static_cast<unsigned char>(c)) * 0x100000001B3U;
+    }
+    std::uint64_t Value() const { return Hash; }
+
+private:
+    std::uint64_t Hash = 0xCBF29CE484222325U;
+};
+
+class Recorder {
+public:
+    // Adds what was drawn since the last call and the texts as they stand.
+    void Record() {
+        for (; Recorded < TheNullDesktop.Drawings.size(); ++Recorded) {
+            const Drawing& d = TheNullDesktop.Drawings.at(Recorded);
+            for (const int number : {static_cast<int>(d.What), d.FromX, d.FromY, d.ToX, d.ToY,
+                                     static_cast<int>(d.DrawnColor)})
+                Signature.Add(std::to_string(number));
+        }
+        for (const auto* box : {&frmQuibsMain.txtPlayer1Status, &frmQuibsMain.txtPlayer2Status,
+                                &frmQuibsMain.txtBoxesStatus, &frmQuibsMain.txtLinesStatus})
+            Signature.Add(box->Text);
+        Signature.Add(frmQuibsMain.lblPlayer1Active.Caption);
+        Signature.Add(frmQuibsMain.lblPlayer2Active.Caption);
+    }
+
+    void BeginGame() { Recorded = 0; }
+    std::uint64_t Value() const { return Signature.Value(); }
+
+private:
+    Fnv1a Signature;
+    std::size_t Recorded = 0;
+};
+
+class GameSignature : public GameTest {};
+
+TEST_F(GameSignature, IsTheOneOnRecord) {
+    Recorder recorder;
+    for (const auto& [columns, rows] : {std::pair{10, 10}, {7, 4}, {2, 9}, {1, 6}, {2, 2}}) {
+        for (Integer firstKind = ComputerAverage; firstKind <= ComputerCheat; ++firstKind) {
+            for (Integer secondKind = ComputerAverage; secondKind <= ComputerCheat; ++secondKind) {
+                for (const Command command : {Command::Start, Command::Auto}) {
+                    StartFresh();
+                    Game.GridColumns = ToInteger(columns);
+                    Game.GridRows = ToInteger(rows);
+                    Game.PlayerKind = {{firstKind, secondKind}};
+                    recorder.BeginGame();
+                    TheNullDesktop.WhenYielding = [&recorder] { recorder.Record(); };
+                    RunCommand(command);
+                    recorder.Record();
+                }
+            }
+        }
+    }
+    std::uint64_t onRecord = 0;
+    std::ifstream(GAME_SIGNATURE_FILE) >> onRecord;
+    EXPECT_EQ(recorder.Value(), onRecord)
+        << "The games are no longer the same. If that is meant, put " << recorder.Value()
+        << " into tests/game_signature.txt and say so in the commit.";
+}
+
+} // namespace
