@@ -148,8 +148,7 @@ TEST_F(Field, FillsABoxInItsOwnersColourOnly) {
 }
 
 TEST_F(Field, TooLargeForSixteenBitsIsAnErrorThatEndsTheGameOnly) {
-    TheNullDesktop.PictureWidth = TheNullDesktop.PictureHeight = 32767;
-    Game.PointSpacingX = Game.PointSpacingY = 150;
+    TheNullDesktop.PictureWidth = TheNullDesktop.PictureHeight = 100'000;
     Game.GridColumns = Game.GridRows = 200;
     TheNullDesktop.Answers = {MessageAnswer::Ok};
     RunGuarded([] { RunCommand(Command::Draw); });
