@@ -66,7 +66,7 @@ TEST_F(GameSignature, IsTheOneOnRecord) {
         }
     }
     std::uint64_t onRecord = 0;
-    std::ifstream(GAME_SIGNATURE_FILE) >> onRecord;
+    std::ifstream(QUIBLINK_TESTS "/game_signature.txt") >> onRecord;
     EXPECT_EQ(recorder.Value(), onRecord)
         << "The games are no longer the same. If that is meant, put " << recorder.Value()
         << " into tests/game_signature.txt and say so in the commit.";

@@ -1,0 +1,33 @@
+// Any bytes as the configuration: read at start, played with, written at exit and read again.
+#include <cstdint>
+#include <cstdlib>
+
+#include "core/game_state.h"
+#include "platform/controls.h"
+#include "storage/configuration.h"
+#include "support/brief_use.h"
+#include "support/files.h"
+#include "ui/commands.h"
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    static const TemporaryDirectory directory;
+    const CurrentDirectory current(directory.Path);
+    const std::string file = "QUIBLNK.CFG";
+    std::filesystem::remove(file);
+    BeginAnew();
+    PutBytes(file, {reinterpret_cast<const char*>(data), size});
+    Form_Load();
+    const bool isPlayable = UseGameBriefly();
+    Game.SettingsChanged = true;
+    mnuExit_Click();
+    const std::string written = BytesOf(file);
+    const bool readsBack =
+        ReadsBackAsWritten(Game.PlayerName.at(1)) && ReadsBackAsWritten(Game.PlayerName.at(2));
+    BeginAnew();
+    Form_Load();
+    Game.SettingsChanged = true;
+    mnuExit_Click();
+    if (!isPlayable || written.empty() || (readsBack && written != BytesOf(file)))
+        std::abort();
+    return 0;
+}
