@@ -116,7 +116,7 @@ TEST_F(Moves, ThatPassTheTurnClickAndShineOnlyFromComputerToPerson) {
             Game.CurrentPlayer = 1;
             Draw(1);
             const auto& drawings = TheNullDesktop.Drawings;
-            EXPECT_EQ(drawings.at(drawings.size() - 2).DrawnColor, BrightWhite)
+            EXPECT_EQ(drawings.at(drawings.size() - 2).FromY, Game.Lines.at(5).Y)
                 << "the former highlight goes";
             EXPECT_EQ(Game.ComputerGhostLine, 1);
         }

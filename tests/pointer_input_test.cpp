@@ -111,6 +111,7 @@ TEST_F(Pointer, PressTakesTheLinePreviewedLastAndOnlyOnce) {
     EXPECT_EQ(Game.GhostLine, 0);
     EXPECT_NE(Last().What, Drawing::Kind::Erasure) << "the drawn line will cover it";
     PressLine(5);
+    Game.MouseDownSeen = false;
     mnuHint_Click();
     EXPECT_EQ(Game.ChosenLine, 12);
     EXPECT_EQ(Game.GhostLine, 0);

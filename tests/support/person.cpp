@@ -2,6 +2,7 @@
 
 #include <memory>
 #include <random>
+#include <stdexcept>
 
 #include "core/random.h"
 #include "display/safe_lines.h"
@@ -30,7 +31,10 @@ std::vector<int> UndrawnLines() {
 }
 
 void LetPersonsPlay(std::uint32_t seed) {
-    TheNullDesktop.WhenIdle = [chance = std::make_shared<std::mt19937>(seed)] {
+    TheNullDesktop.WhenIdle = [chance = std::make_shared<std::mt19937>(seed),
+                               presses = 0]() mutable {
+        if (++presses > 10'000)
+            throw std::logic_error("the game takes no line of a person");
         TheNullDesktop.Answers = {MessageAnswer::Ok};
         const std::vector<int> lines = UndrawnLines();
         PressLine(lines.at((*chance)() % lines.size()));
