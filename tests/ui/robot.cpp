@@ -105,6 +105,10 @@ Robot::Robot() {
             XFree(value);
         return count > 0;
     });
+    StartProgram();
+}
+
+void Robot::StartProgram() {
     Program = Start({QUIBLINK_PROGRAM});
 }
 

@@ -25,6 +25,9 @@ public:
     Robot(const Robot&) = delete;
     Robot& operator=(const Robot&) = delete;
 
+    // Starts the program again, in the same directory, after it has ended.
+    void StartProgram();
+
     // Presses keys like "ctrl+t", "Return" or "alt+y"; Type writes letters and digits.
     void Press(const std::string& keys);
     void Type(const std::string& text);

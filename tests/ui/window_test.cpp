@@ -70,6 +70,21 @@ protected:
         return {};
     }
 
+    ScreenField WaitForField(int columns, int rows) {
+        ScreenField field;
+        EXPECT_TRUE(Screen.WaitFor([&] {
+            field = FindField(columns, rows);
+            return field.Columns > 0;
+        }));
+        return field;
+    }
+
+    // A point of the playing field beside all lines.
+    ScreenPoint FieldMargin() {
+        const ScreenArea window = Screen.FindWindow("Quiblink").value();
+        return {window.Left + window.Width / 2, window.Top + window.Height / 2 - 150};
+    }
+
     bool IsDrawn(ScreenPoint middle) { return Screen.PixelAt(middle) == Drawn; }
 
     int CountDrawn(const ScreenField& field) {
@@ -98,6 +113,14 @@ protected:
             Answer("Illegal Move", "Return");
     }
 
+    // Plays lines until so many are drawn.
+    void PlayOn(const ScreenField& field, int lines) {
+        while (CountDrawn(field) < lines && !HasFatalFailure())
+            for (const ScreenPoint& middle : field.LineMiddles())
+                if (CountDrawn(field) < lines && !HasFatalFailure())
+                    PlayLine(middle);
+    }
+
     Robot Screen;
     int LinesOfPerson = 0;
 };
@@ -114,17 +137,10 @@ TEST_F(Window, PlaysAWholeGameOfAPersonAgainstAComputerSetInTheDialogs) {
     Answer("Define Players", "Return");
 
     Screen.Press("ctrl+t");
-    ScreenField field;
-    ASSERT_TRUE(Screen.WaitFor([&] {
-        field = FindField(3, 2);
-        return field.Columns > 0;
-    }));
+    const ScreenField field = WaitForField(3, 2);
     const std::vector<ScreenPoint> lines = field.LineMiddles();
     ASSERT_EQ(lines.size(), 17U);
-    while (CountDrawn(field) < static_cast<int>(lines.size()))
-        for (const ScreenPoint& middle : lines) {
-            ASSERT_NO_FATAL_FAILURE(PlayLine(middle));
-        }
+    PlayOn(field, static_cast<int>(lines.size()));
     EXPECT_GT(LinesOfPerson, 2);
 
     // The game is over: a new one begins with an empty field, and can be given up.
@@ -141,17 +157,64 @@ TEST_F(Window, AnswersItsMenusByAccessKeyAndEndsWithinASecondInEveryWait) {
     SetGrid("4", "4");
     Screen.Press("alt+g");
     Screen.Press("a"); // Auto
-    ScreenField field;
-    ASSERT_TRUE(Screen.WaitFor([&] {
-        field = FindField(4, 4);
-        return field.Columns > 0 && CountDrawn(field) >= 16;
-    }));
+    const ScreenField field = WaitForField(4, 4);
+    EXPECT_TRUE(Screen.WaitFor([&] { return CountDrawn(field) >= 16; }));
     Screen.Press("ctrl+x");
     Answer("Exit the Game", "Escape");
     Screen.Press("ctrl+r"); // a dialog must not keep the program alive
     ASSERT_TRUE(Screen.WaitForWindow("Define Playing Grid"));
     Screen.PressCloseBox("Quiblink");
     EXPECT_EQ(Screen.WaitForExit(), 0);
+}
+
+TEST_F(Window, KeepsAGameAndTheSettingsInFiles) {
+    SetGrid("3", "2");
+    Screen.Press("ctrl+p");
+    ASSERT_TRUE(Screen.WaitForWindow("Define Players"));
+    for (const char* keys : {"Tab", "Tab", "Up", "Up", "Tab", "Tab", "Tab", "Up"})
+        Screen.Press(keys); // both are persons
+    Answer("Define Players", "Return");
+    Screen.Press("ctrl+t");
+    const ScreenField field = WaitForField(3, 2);
+    PlayOn(field, 5);
+
+    Screen.Press("ctrl+u");
+    Screen.Press("ctrl+s");
+    ASSERT_TRUE(Screen.WaitForWindow("Save a Quibs Game"));
+    Screen.Type("story");
+    Answer("Save a Quibs Game", "Return");
+    EXPECT_TRUE(std::filesystem::exists(Screen.Directory() / "story.qbs"));
+    Screen.Press("ctrl+q");
+    Answer("Quit the Game", "alt+y");
+    EXPECT_TRUE(Screen.WaitFor([&] { return CountDrawn(field) == 0; }));
+
+    Screen.Press("ctrl+o");
+    ASSERT_TRUE(Screen.WaitForWindow("Open a Quibs Game"));
+    Screen.Press("Tab"); // from the list of games to the path
+    Screen.Type("story");
+    Screen.Press("period");
+    Screen.Type("qbs");
+    Answer("Open a Quibs Game", "Return");
+    EXPECT_TRUE(Screen.WaitFor([&] { return CountDrawn(field) == 5; }));
+    Screen.Press("ctrl+t");
+    PlayOn(field, static_cast<int>(field.LineMiddles().size()));
+
+    Screen.Press("ctrl+r");
+    ASSERT_TRUE(Screen.WaitForWindow("Define Playing Grid"));
+    for (const char* keys : {"Tab", "Tab", "space"})
+        Screen.Press(keys); // the colour of the background
+    ASSERT_TRUE(Screen.WaitForWindow("Select Color"));
+    for (const char* keys : {"alt+h", "End", "BackSpace", "BackSpace", "a", "a"})
+        Screen.Press(keys);
+    Answer("Select Color", "Return");
+    Answer("Define Playing Grid", "Return");
+    EXPECT_TRUE(Screen.WaitFor([&] { return Screen.PixelAt(FieldMargin()) == 0x0000AA; }));
+    Screen.Press("ctrl+x");
+    EXPECT_EQ(Screen.WaitForExit(), 0);
+
+    Screen.StartProgram();
+    ASSERT_TRUE(Screen.WaitForWindow("Quiblink"));
+    EXPECT_TRUE(Screen.WaitFor([&] { return Screen.PixelAt(FieldMargin()) == 0x0000AA; }));
 }
 
 } // namespace
