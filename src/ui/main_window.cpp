@@ -235,9 +235,11 @@ void MainWindow::ShowControls() {
 }
 
 void MainWindow::PostCommand(Command command) {
-    QMetaObject::invokeMethod(
-        this, [this, command] { RunGuarded([=, this] { RunOrOpenDialog(command); }); },
-        Qt::QueuedConnection);
+    const auto run = [this, command] {
+        RunGuarded([this, command] { RunOrOpenDialog(command); });
+        ShowControls();
+    };
+    QMetaObject::invokeMethod(this, run, Qt::QueuedConnection);
 }
 
 void MainWindow::RunOrOpenDialog(Command command) {

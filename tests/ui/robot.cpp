@@ -211,8 +211,8 @@ std::optional<ScreenArea> Robot::FindWindow(const std::string& title) {
     return ScreenArea{left, top, inside.width, inside.height};
 }
 
-bool Robot::WaitFor(const std::function<bool()>& condition) {
-    const auto end = std::chrono::steady_clock::now() + 10s;
+bool Robot::WaitFor(const std::function<bool()>& condition, double seconds) {
+    const auto end = std::chrono::steady_clock::now() + std::chrono::duration<double>(seconds);
     while (!condition()) {
         if (std::chrono::steady_clock::now() > end)
             return false;
@@ -221,8 +221,8 @@ bool Robot::WaitFor(const std::function<bool()>& condition) {
     return true;
 }
 
-bool Robot::WaitForWindow(const std::string& title) {
-    return WaitFor([&] { return FindWindow(title).has_value(); });
+bool Robot::WaitForWindow(const std::string& title, double seconds) {
+    return WaitFor([&] { return FindWindow(title).has_value(); }, seconds);
 }
 
 bool Robot::WaitForNoWindow(const std::string& title) {

@@ -41,9 +41,9 @@ public:
     // Where the inside of the window of that title is, if it is shown.
     std::optional<ScreenArea> FindWindow(const std::string& title);
 
-    // Waits for ten seconds at the most; a test goes on only if it came true.
-    bool WaitFor(const std::function<bool()>& condition);
-    bool WaitForWindow(const std::string& title);
+    // Tells whether it came true before the time was up.
+    bool WaitFor(const std::function<bool()>& condition, double seconds = 10);
+    bool WaitForWindow(const std::string& title, double seconds = 10);
     bool WaitForNoWindow(const std::string& title);
 
     // The exit status, or -1 when the program did not end within a second.

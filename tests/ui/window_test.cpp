@@ -38,6 +38,14 @@ protected:
 
     void TearDown() override { EXPECT_EQ(Screen.StandardError(), ""); }
 
+    // A command that is about to be enabled may still be off when the keys arrive.
+    void Open(const std::string& keys, const std::string& title) {
+        ASSERT_TRUE(Screen.WaitFor([&] {
+            Screen.Press(keys);
+            return Screen.WaitForWindow(title, 0.3);
+        }));
+    }
+
     void Answer(const std::string& title, const std::string& keys) {
         ASSERT_TRUE(Screen.WaitForWindow(title));
         Screen.Press(keys);
@@ -45,36 +53,44 @@ protected:
     }
 
     void SetGrid(const std::string& columns, const std::string& rows) {
-        Screen.Press("ctrl+r");
-        ASSERT_TRUE(Screen.WaitForWindow("Define Playing Grid"));
+        Open("ctrl+r", "Define Playing Grid");
         Screen.Type(columns);
         Screen.Press("Tab");
         Screen.Type(rows);
         Answer("Define Playing Grid", "Return");
     }
 
-    // The colour at the very middle of a field, whose left upper point is one of few pixels.
+    // Whether all points of a field stand on the screen, with nothing left of or above the first.
+    bool IsField(const ScreenField& field) {
+        for (int row = 0; row <= field.Rows; ++row)
+            for (int column = 0; column <= field.Columns; ++column)
+                if (!IsDrawn({field.FirstPoint.X + column * Spacing,
+                              field.FirstPoint.Y + row * Spacing}))
+                    return false;
+        return Screen.PixelAt({field.FirstPoint.X - 1, field.FirstPoint.Y}) == Background &&
+               Screen.PixelAt({field.FirstPoint.X, field.FirstPoint.Y - 1}) == Background;
+    }
+
+    // The field is centred in the picture, so its first point lies half its width left of the
+    // middle; how far down is seen. No columns where there is none.
     ScreenField FindField(int columns, int rows) {
         const ScreenArea window = Screen.FindWindow("Quiblink").value();
-        const auto isPoint = [&](int x, int y) {
-            return Screen.PixelAt({x, y}) == Drawn && Screen.PixelAt({x - 1, y}) == Background &&
-                   Screen.PixelAt({x, y - 1}) == Background;
-        };
-        // The field is centred in the picture, so its first point lies left of the middle.
-        const int middle = window.Left + window.Width / 2;
-        const int width = columns * Spacing;
-        for (int y = window.Top + 90; y < window.Top + window.Height - 100; ++y)
-            for (int x = middle - width / 2 - 1; x <= middle - width / 2 + 1; ++x)
-                if (isPoint(x, y))
-                    return {{x, y}, columns, rows};
+        const int left = window.Left + (window.Width - columns * Spacing) / 2;
+        for (int y = window.Top + 90; y < window.Top + window.Height - 100 - rows * Spacing; ++y)
+            for (const int x : {left - 1, left, left + 1})
+                if (const ScreenField field{{x, y}, columns, rows}; IsField(field))
+                    return field;
         return {};
     }
 
-    ScreenField WaitForField(int columns, int rows) {
+    // Starts a game; right after a dialog the first keys may still miss the window.
+    ScreenField StartGame(std::initializer_list<const char*> keys, int columns, int rows) {
         ScreenField field;
         EXPECT_TRUE(Screen.WaitFor([&] {
-            field = FindField(columns, rows);
-            return field.Columns > 0;
+            for (const char* key : keys)
+                Screen.Press(key);
+            return Screen.WaitFor([&] { return (field = FindField(columns, rows)).Columns > 0; },
+                                  0.5);
         }));
         return field;
     }
@@ -113,12 +129,13 @@ protected:
             Answer("Illegal Move", "Return");
     }
 
-    // Plays lines until so many are drawn.
+    // Plays lines until so many are drawn. Each pass draws at least one.
     void PlayOn(const ScreenField& field, int lines) {
-        while (CountDrawn(field) < lines && !HasFatalFailure())
+        for (int pass = 0; pass < lines && CountDrawn(field) < lines; ++pass)
             for (const ScreenPoint& middle : field.LineMiddles())
                 if (CountDrawn(field) < lines && !HasFatalFailure())
                     PlayLine(middle);
+        ASSERT_EQ(CountDrawn(field), lines);
     }
 
     Robot Screen;
@@ -127,8 +144,7 @@ protected:
 
 TEST_F(Window, PlaysAWholeGameOfAPersonAgainstAComputerSetInTheDialogs) {
     SetGrid("3", "2");
-    Screen.Press("ctrl+p");
-    ASSERT_TRUE(Screen.WaitForWindow("Define Players"));
+    Open("ctrl+p", "Define Players");
     Screen.Type("Ada");
     Screen.Press("Tab"); // the colour
     Screen.Press("Tab"); // the kind, Computer Intelligent
@@ -136,8 +152,7 @@ TEST_F(Window, PlaysAWholeGameOfAPersonAgainstAComputerSetInTheDialogs) {
     Screen.Press("Up");
     Answer("Define Players", "Return");
 
-    Screen.Press("ctrl+t");
-    const ScreenField field = WaitForField(3, 2);
+    const ScreenField field = StartGame({"ctrl+t"}, 3, 2);
     const std::vector<ScreenPoint> lines = field.LineMiddles();
     ASSERT_EQ(lines.size(), 17U);
     PlayOn(field, static_cast<int>(lines.size()));
@@ -146,7 +161,7 @@ TEST_F(Window, PlaysAWholeGameOfAPersonAgainstAComputerSetInTheDialogs) {
     // The game is over: a new one begins with an empty field, and can be given up.
     Screen.Press("ctrl+t");
     EXPECT_TRUE(Screen.WaitFor([&] { return CountDrawn(field) <= 1; }));
-    Screen.Press("ctrl+q");
+    Open("ctrl+q", "Quit the Game");
     Answer("Quit the Game", "alt+y");
     EXPECT_TRUE(Screen.WaitFor([&] { return Screen.PixelAt(field.FirstPoint) == Background; }));
     Screen.Press("ctrl+x");
@@ -155,41 +170,34 @@ TEST_F(Window, PlaysAWholeGameOfAPersonAgainstAComputerSetInTheDialogs) {
 
 TEST_F(Window, AnswersItsMenusByAccessKeyAndEndsWithinASecondInEveryWait) {
     SetGrid("4", "4");
-    Screen.Press("alt+g");
-    Screen.Press("a"); // Auto
-    const ScreenField field = WaitForField(4, 4);
+    const ScreenField field = StartGame({"alt+g", "a"}, 4, 4); // Game, Auto
     EXPECT_TRUE(Screen.WaitFor([&] { return CountDrawn(field) >= 16; }));
-    Screen.Press("ctrl+x");
+    Open("ctrl+x", "Exit the Game");
     Answer("Exit the Game", "Escape");
-    Screen.Press("ctrl+r"); // a dialog must not keep the program alive
-    ASSERT_TRUE(Screen.WaitForWindow("Define Playing Grid"));
+    Open("ctrl+r", "Define Playing Grid"); // a dialog must not keep the program alive
     Screen.PressCloseBox("Quiblink");
     EXPECT_EQ(Screen.WaitForExit(), 0);
 }
 
 TEST_F(Window, KeepsAGameAndTheSettingsInFiles) {
     SetGrid("3", "2");
-    Screen.Press("ctrl+p");
-    ASSERT_TRUE(Screen.WaitForWindow("Define Players"));
+    Open("ctrl+p", "Define Players");
     for (const char* keys : {"Tab", "Tab", "Up", "Up", "Tab", "Tab", "Tab", "Up"})
         Screen.Press(keys); // both are persons
     Answer("Define Players", "Return");
-    Screen.Press("ctrl+t");
-    const ScreenField field = WaitForField(3, 2);
+    const ScreenField field = StartGame({"ctrl+t"}, 3, 2);
     PlayOn(field, 5);
 
     Screen.Press("ctrl+u");
-    Screen.Press("ctrl+s");
-    ASSERT_TRUE(Screen.WaitForWindow("Save a Quibs Game"));
+    Open("ctrl+s", "Save a Quibs Game");
     Screen.Type("story");
     Answer("Save a Quibs Game", "Return");
     EXPECT_TRUE(std::filesystem::exists(Screen.Directory() / "story.qbs"));
-    Screen.Press("ctrl+q");
+    Open("ctrl+q", "Quit the Game");
     Answer("Quit the Game", "alt+y");
     EXPECT_TRUE(Screen.WaitFor([&] { return CountDrawn(field) == 0; }));
 
-    Screen.Press("ctrl+o");
-    ASSERT_TRUE(Screen.WaitForWindow("Open a Quibs Game"));
+    Open("ctrl+o", "Open a Quibs Game");
     Screen.Press("Tab"); // from the list of games to the path
     Screen.Type("story");
     Screen.Press("period");
@@ -199,8 +207,7 @@ TEST_F(Window, KeepsAGameAndTheSettingsInFiles) {
     Screen.Press("ctrl+t");
     PlayOn(field, static_cast<int>(field.LineMiddles().size()));
 
-    Screen.Press("ctrl+r");
-    ASSERT_TRUE(Screen.WaitForWindow("Define Playing Grid"));
+    Open("ctrl+r", "Define Playing Grid");
     for (const char* keys : {"Tab", "Tab", "space"})
         Screen.Press(keys); // the colour of the background
     ASSERT_TRUE(Screen.WaitForWindow("Select Color"));
