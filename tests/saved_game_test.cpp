@@ -183,6 +183,8 @@ TEST_F(SavedGame, CarriesItsSpacingUntilTheNextNewGame) {
     RunCommand(Command::Draw);
     SaveGame(File);
     StartFresh();
+    Game.GridColumns = Game.GridRows = 1;
+    RunCommand(Command::Start);
     OpenGame(File);
     EXPECT_EQ(Game.PointSpacingX, 250);
     RunCommand(Command::Start);
@@ -277,6 +279,11 @@ TEST_F(SavedGame, IsReadFromAnyLineEndsCommasAndQuotes) {
     const GameState quoted = opened(Corpus + "quotes.qbs");
     EXPECT_EQ(quoted.PlayerName, (PerPlayer<std::string>{{"Ann", "B,o"}}));
     EXPECT_TRUE(quoted.Lines == oneBox.Lines);
+    for (const int lineOfRow0 : {21, 40}) {
+        PutBytes(File, OneBoxWith(lineOfRow0, " 9 "));
+        opened(File);
+        EXPECT_TRUE(BoardIsSound());
+    }
     for (const std::string& name : std::vector<std::string>{"", "Ann Lee "}) {
         PutBytes(File, OneBoxWith(7, "  " + name));
         EXPECT_EQ(opened(File).PlayerName.at(1), name);
