@@ -257,6 +257,13 @@ TEST_F(SavedGame, WithAValueThatCannotBeEndsSilentlyAndTheNextGameIsWhole) {
         EXPECT_EQ(Game.BoxesClaimed, Game.BoxCount);
     }
     SetUp();
+    SetUpGame(5, 5, Humanoid, Humanoid);
+    Game.GameInPlay = false;
+    Game.ComputerGhostLine = 50;
+    OpenBytes(OneBoxWith(35, " 32767 "));
+    picPlayingField_MouseMove(1, 1); // the highlighted line is no more
+
+    SetUp();
     TheNullDesktop.WhenIdle = PressOpenLine;
     OpenBytes(OneBoxWith(5, " 3 "));
     EXPECT_TRUE(Game.GamePaused && IsEnabled(Command::Open) && !ChannelIsTaken());
