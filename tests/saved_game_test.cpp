@@ -122,17 +122,12 @@ TEST_F(SavedGame, IsResumedByTheRightPlayerAndFinished) {
     EXPECT_TRUE(SaveGameAs(Directory.Path, "game"));
     const GameState saved = Game;
     RunCommand(Command::Quit);
-    EXPECT_EQ(Game.LinesDrawn, saved.LinesDrawn);
     EXPECT_EQ(Game.BoxCount, 0);
 
     OpenGame(File);
     EXPECT_TRUE(Game.Lines == saved.Lines && Game.Boxes == saved.Boxes);
     EXPECT_EQ(Game.CurrentPlayer, saved.CurrentPlayer);
-    TheNullDesktop.WhenIdle = [&, first = true]() mutable {
-        EXPECT_TRUE(!first || Game.CurrentPlayer == saved.CurrentPlayer);
-        first = false;
-        PressOpenLine();
-    };
+    TheNullDesktop.WhenIdle = PressOpenLine;
     RunCommand(Command::Start);
     EXPECT_TRUE(BoardIsSound());
     EXPECT_EQ(Game.BoxesClaimed, 6);
@@ -188,6 +183,8 @@ TEST_F(SavedGame, CarriesItsSpacingUntilTheNextNewGame) {
     RunCommand(Command::Draw);
     SaveGame(File);
     StartFresh();
+    Game.GridColumns = Game.GridRows = 1;
+    RunCommand(Command::Start);
     OpenGame(File);
     EXPECT_EQ(Game.PointSpacingX, 250);
     RunCommand(Command::Start);
@@ -197,20 +194,18 @@ TEST_F(SavedGame, CarriesItsSpacingUntilTheNextNewGame) {
 }
 
 TEST_F(SavedGame, HasItsExtensionInPlaceOfAnotherOfThreeCharacters) {
-    const std::vector<std::array<std::string, 3>> cases{
-        {"/d", "game", "/d/game.qbs"},
-        {"/d", "game.QbS", "/d/game.QbS"},
-        {"/d", "game.txt", "/d/game.qbs"},
-        {"/d", "game.text", "/d/game.text.qbs"},
-        {"/d", "a.b.c", "/d/a.qbs"},
-        {"/", "game", "//game.qbs"},
-        {"/d.", "ab", "/d./ab.qbs"},
-        {"/d", "b./cd", "/d/b./cd.qbs"},
-        {"", "a", "/a.qbs"},
-        {"/d", "x.\u00e9ab", "/d/x.qbs"},
-        {"/d", "x.\u00e9a", "/d/x.\u00e9a.qbs"},
-        {"/d", ".qbs", "/d/.qbs"},
-    };
+    const std::vector<std::array<std::string, 3>> cases{{"/d", "game", "/d/game.qbs"},
+                                                        {"/d", "game.QbS", "/d/game.QbS"},
+                                                        {"/d", "game.txt", "/d/game.qbs"},
+                                                        {"/d", "game.text", "/d/game.text.qbs"},
+                                                        {"/d", "a.b.c", "/d/a.qbs"},
+                                                        {"/", "game", "//game.qbs"},
+                                                        {"/d.", "ab", "/d./ab.qbs"},
+                                                        {"/d", "b./cd", "/d/b./cd.qbs"},
+                                                        {"", "a", "/a.qbs"},
+                                                        {"/d", "x.\u00e9ab", "/d/x.qbs"},
+                                                        {"/d", "x.\u00e9a", "/d/x.\u00e9a.qbs"},
+                                                        {"/d", ".qbs", "/d/.qbs"}};
     for (const auto& [directory, name, path] : cases)
         EXPECT_EQ(SavePath(directory, name), path);
 }
@@ -262,6 +257,13 @@ TEST_F(SavedGame, WithAValueThatCannotBeEndsSilentlyAndTheNextGameIsWhole) {
         EXPECT_EQ(Game.BoxesClaimed, Game.BoxCount);
     }
     SetUp();
+    SetUpGame(5, 5, Humanoid, Humanoid);
+    Game.GameInPlay = false;
+    Game.ComputerGhostLine = 50;
+    OpenBytes(OneBoxWith(35, " 32767 "));
+    picPlayingField_MouseMove(1, 1); // the highlighted line is no more
+
+    SetUp();
     TheNullDesktop.WhenIdle = PressOpenLine;
     OpenBytes(OneBoxWith(5, " 3 "));
     EXPECT_TRUE(Game.GamePaused && IsEnabled(Command::Open) && !ChannelIsTaken());
@@ -284,10 +286,15 @@ TEST_F(SavedGame, IsReadFromAnyLineEndsCommasAndQuotes) {
     const GameState quoted = opened(Corpus + "quotes.qbs");
     EXPECT_EQ(quoted.PlayerName, (PerPlayer<std::string>{{"Ann", "B,o"}}));
     EXPECT_TRUE(quoted.Lines == oneBox.Lines);
-    PutBytes("names.qbs", OneBoxWith(7, ""));
-    EXPECT_EQ(opened("names.qbs").PlayerName.at(1), "");
-    PutBytes("names.qbs", OneBoxWith(7, "  Ann Lee "));
-    EXPECT_EQ(opened("names.qbs").PlayerName.at(1), "Ann Lee ");
+    for (const int lineOfRow0 : {21, 40}) {
+        PutBytes(File, OneBoxWith(lineOfRow0, " 9 "));
+        opened(File);
+        EXPECT_TRUE(BoardIsSound());
+    }
+    for (const std::string& name : std::vector<std::string>{"", "Ann Lee "}) {
+        PutBytes(File, OneBoxWith(7, "  " + name));
+        EXPECT_EQ(opened(File).PlayerName.at(1), name);
+    }
 }
 
 TEST_F(SavedGame, KeepsEveryName) {
@@ -307,22 +314,13 @@ TEST_F(SavedGame, KeepsEveryName) {
 }
 
 TEST_F(SavedGame, CutShortAnywhereOrChangedInAnyByteDoesNoHarm) {
-    const std::string sample = BytesOf(Samples + "one_box.qbs");
-    const auto survives = [this](const std::string& bytes) {
+    const auto isHarmless = [this](const std::string& bytes) {
         BeginAnew();
         OpenBytes(bytes);
         CloseChannel();
         return UseGameBriefly();
     };
-    for (std::size_t length = 0; length < sample.size(); ++length)
-        ASSERT_TRUE(survives(sample.substr(0, length))) << length;
-    for (std::size_t i = 0; i < sample.size(); ++i) {
-        std::string changed = sample;
-        for (int byte = 0; byte < 256; ++byte) {
-            changed.at(i) = static_cast<char>(byte);
-            ASSERT_TRUE(survives(changed)) << i << " is " << byte;
-        }
-    }
+    EXPECT_EQ(FirstHarmfulDamage(BytesOf(Samples + "one_box.qbs"), isHarmless), "");
 }
 
 } // namespace

@@ -10,14 +10,14 @@
 #include "ui/commands.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    static const TemporaryDirectory directory;
+    const TemporaryDirectory directory;
     const CurrentDirectory current(directory.Path);
     const std::string file = "QUIBLNK.CFG";
-    std::filesystem::remove(file);
     BeginAnew();
+    const GameState builtIn = Game;
     PutBytes(file, {reinterpret_cast<const char*>(data), size});
     Form_Load();
-    const bool isPlayable = UseGameBriefly();
+    const bool isPlayable = Game == builtIn || UseGameBriefly();
     Game.SettingsChanged = true;
     mnuExit_Click();
     const std::string written = BytesOf(file);

@@ -29,9 +29,9 @@ void Require(bool condition) {
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    static const TemporaryDirectory directory;
-    static const std::string given = directory.Path + "/given.qbs";
-    static const std::string saved = directory.Path + "/saved.qbs";
+    const TemporaryDirectory directory;
+    const std::string given = directory.Path + "/given.qbs";
+    const std::string saved = directory.Path + "/saved.qbs";
     BeginAnew();
     PutBytes(given, {reinterpret_cast<const char*>(data), size});
     OpenGame(given);
