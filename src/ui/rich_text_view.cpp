@@ -76,16 +76,17 @@ std::size_t ColumnCount(const RichTable& table) {
     return columns;
 }
 
-// The widths that the first row asks for, where it asks for all of them.
+// The shares of the width that the first row asks for, where it asks for all of them.
 QList<QTextLength> ColumnWidths(const RichTable& table, std::size_t columns) {
     const std::vector<int>& edges = table.Rows.front().RightEdges;
     if (edges.size() < columns || !std::is_sorted(edges.begin(), edges.end()))
         return {};
+    const double whole = edges.at(columns - 1);
     QList<QTextLength> widths;
     int left = 0;
-    for (std::size_t column = 0; column < columns; ++column) {
+    for (std::size_t column = 0; column < columns && whole > 0; ++column) {
         const int right = edges.at(column);
-        widths.append(QTextLength(QTextLength::FixedLength, (right - left) / TwipsPerUnit));
+        widths.append(QTextLength(QTextLength::PercentageLength, 100 * (right - left) / whole));
         left = right;
     }
     return widths;
