@@ -8,9 +8,9 @@
 #include <locale>
 #include <sstream>
 
+#include "core/text_encoding.h"
 #include "display/command_states.h"
 #include "display/field.h"
-#include "storage/name_encoding.h"
 #include "storage/value_file.h"
 #include "support/brief_use.h"
 #include "support/files.h"

@@ -116,6 +116,7 @@ struct GameState {
     std::optional<Command> CommandAfterGameOver; // waits for that to stop
     std::string GameToOpen;                      // the file that Command::Open opens
     bool ResizeWarningShown = false;
+    bool ShowHistory = false;   // the help viewer shows the history, not the help
     bool ProgramEnding = false; // every wait and loop unwinds
 
     bool operator==(const GameState&) const = default;

@@ -8,7 +8,7 @@
 #include <string_view>
 
 #include "core/file_exists.h"
-#include "storage/name_encoding.h"
+#include "core/text_encoding.h"
 
 namespace {
 

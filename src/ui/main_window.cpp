@@ -15,6 +15,7 @@
 #include "ui/commands.h"
 #include "ui/file_dialogs.h"
 #include "ui/grid_dialog.h"
+#include "ui/help_viewer.h"
 #include "ui/players_dialog.h"
 #include "ui/playing_field.h"
 #include "ui/status_frame.h"
@@ -44,7 +45,8 @@ MainWindow::MainWindow()
     : tbrToolBar(new QToolBar(this)), ClientArea(new QWidget(this)),
       picPlayingField(new PlayingField(ClientArea)), fraStatistics(new StatusFrame(ClientArea)),
       frmFileOpen(new OpenDialog(this)), frmFileSave(new SaveDialog(this)),
-      frmDefineGrid(new GridDialog(this)), frmDefinePlayers(new PlayersDialog(this)) {
+      frmDefineGrid(new GridDialog(this)), frmDefinePlayers(new PlayersDialog(this)),
+      frmHelp(new HelpViewer(this)) {
     setObjectName("frmQuibsMain");
     setWindowTitle("Quiblink");
     setWindowIcon(ColoredIcon(":/icons/quiblink.svg"));
@@ -254,6 +256,10 @@ void MainWindow::RunOrOpenDialog(Command command) {
         return frmDefineGrid->OpenOrRaise();
     case Command::Players:
         return frmDefinePlayers->OpenOrRaise();
+    case Command::QuibsHelp:
+    case Command::History:
+        Game.ShowHistory = command == Command::History;
+        return frmHelp->OpenOrRaise();
     default:
         RunCommand(command);
     }

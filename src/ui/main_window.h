@@ -8,6 +8,7 @@
 #include "platform/controls.h"
 
 class FormDialog;
+class HelpViewer;
 class PlayingField;
 class QAction;
 class QMenu;
@@ -55,5 +56,6 @@ private:
     FormDialog* frmFileSave;
     FormDialog* frmDefineGrid;
     FormDialog* frmDefinePlayers;
+    HelpViewer* frmHelp;
     MainWindowControls Shown;
 };

@@ -1,4 +1,4 @@
-#include "storage/name_encoding.h"
+#include "core/text_encoding.h"
 
 #include <algorithm>
 #include <array>
@@ -25,26 +25,6 @@ std::optional<char> ToWindows1252(char32_t character) {
     if (character > 0xFF || IsSpecial(character))
         return std::nullopt;
     return static_cast<char>(character);
-}
-
-char32_t FromWindows1252(char byte) {
-    const char32_t code = static_cast<unsigned char>(byte);
-    return IsSpecial(code) ? SpecialCharacters.at(code - FirstSpecial) : code;
-}
-
-// Appends a character below 0x10000, as all of Windows-1252 are.
-void AppendUtf8(std::string& text, char32_t character) {
-    const auto continuation = [](char32_t bits) { return static_cast<char>(0x80 | (bits & 0x3F)); };
-    if (character < 0x80) {
-        text += static_cast<char>(character);
-    } else if (character < 0x800) {
-        text += static_cast<char>(0xC0 | (character >> 6));
-        text += continuation(character);
-    } else {
-        text += static_cast<char>(0xE0 | (character >> 12));
-        text += continuation(character >> 6);
-        text += continuation(character);
-    }
 }
 
 // Bytes of the character that a first byte begins, 0 = none.
@@ -85,6 +65,32 @@ bool IsUtf8(std::string_view text) {
 }
 
 } // namespace
+
+void AppendUtf8(std::string& text, char32_t character) {
+    const auto append = [&text](char32_t byte) { text += static_cast<char>(byte); };
+    const auto appendLow6Bits = [&](char32_t bits) { append(0x80 | (bits & 0x3F)); };
+    if (character < 0x80) {
+        append(character);
+        return;
+    }
+    if (character < 0x800) {
+        append(0xC0 | (character >> 6));
+    } else {
+        if (character < 0x10000) {
+            append(0xE0 | (character >> 12));
+        } else {
+            append(0xF0 | (character >> 18));
+            appendLow6Bits(character >> 12);
+        }
+        appendLow6Bits(character >> 6);
+    }
+    appendLow6Bits(character);
+}
+
+char32_t FromWindows1252(char byte) {
+    const char32_t code = static_cast<unsigned char>(byte);
+    return IsSpecial(code) ? SpecialCharacters.at(code - FirstSpecial) : code;
+}
 
 std::string EncodeForFile(const std::string& text) {
     std::string bytes;

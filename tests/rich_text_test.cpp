@@ -1,0 +1,125 @@
+#include "ui/rich_text.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+std::string TextOf(const RichParagraph& paragraph) {
+    std::string text;
+    for (const RichRun& run : paragraph.Runs)
+        text += run.Text;
+    return text;
+}
+
+// Paragraphs between bars; a table's rows in brackets, its cells divided by semicolons.
+std::string TextOf(const RichText& document) {
+    std::string text;
+    for (const RichBlock& block : document) {
+        if (const auto* paragraph = std::get_if<RichParagraph>(&block)) {
+            text += TextOf(*paragraph) + "|";
+            continue;
+        }
+        for (const RichRow& row : std::get<RichTable>(block).Rows) {
+            text += "[";
+            for (const RichCell& cell : row.Cells) {
+                for (const RichParagraph& paragraph : cell.Paragraphs)
+                    text += TextOf(paragraph) + "|";
+                text += ";";
+            }
+            text += "]";
+        }
+    }
+    return text;
+}
+
+std::string Read(const std::string& rtf) {
+    return TextOf(ReadRichText(rtf));
+}
+
+std::string Repeated(const std::string& piece, int times) {
+    std::string text;
+    for (int i = 0; i < times; ++i)
+        text += piece;
+    return text;
+}
+
+} // namespace
+
+TEST(RichText, ReadsTheFormatsOfRunsAndParagraphs) {
+    const RichText document =
+        ReadRichText("{\\rtf1{\\colortbl;\\red1\\green2\\blue3;}\\qc\\li400\\fi-400\\sa99999\n"
+                     "a{\\b\\cf1\\fs30 b\\b0 c}{\\i\\ul d}\\cf7 e\\par\\pard\\plain f\\par}");
+    ASSERT_EQ(document.size(), 2u);
+    const auto& first = std::get<RichParagraph>(document.at(0));
+    EXPECT_EQ(first.Format.Alignment, RichAlignment::Center);
+    EXPECT_EQ(first.Format.LeftIndent, 400);
+    EXPECT_EQ(first.Format.FirstIndent, -400);
+    EXPECT_EQ(first.Format.SpaceAfter, 31680); // 22 inches are the most
+    ASSERT_EQ(first.Runs.size(), 5u);
+    const RichColor color{.Red = 1, .Green = 2, .Blue = 3};
+    EXPECT_EQ(first.Runs.at(0).Format, RichRunFormat{});
+    EXPECT_EQ(first.Runs.at(1).Format,
+              (RichRunFormat{.Bold = true, .Color = color, .HalfPoints = 30}));
+    EXPECT_EQ(first.Runs.at(2).Format, (RichRunFormat{.Color = color, .HalfPoints = 30}));
+    EXPECT_EQ(first.Runs.at(3).Format, (RichRunFormat{.Italic = true, .Underline = true}));
+    EXPECT_EQ(first.Runs.at(4).Format, RichRunFormat{}); // a colour that the table does not have
+    EXPECT_EQ(std::get<RichParagraph>(document.at(1)).Format.LeftIndent, 0);
+}
+
+TEST(RichText, ReadsTextInEveryWayOfWritingIt) {
+    const struct {
+        std::string Rtf, Text;
+    } cases[] = {
+        {"{\\rtf1 a\r\nb\\par\\\n}", "ab||"},
+        {"{\\rtf1\\{\\}\\\\\\~\\bullet\\tab x}", "{}\\\u00A0\u2022\tx|"},
+        {"{\\rtf1\\'80\\'e9\\'93\\'zz}", "\u20AC\u00E9\u201Czz|"},
+        {"{\\rtf1\\uc1 \\u8364?\\u233\\'e9x}", "\u20AC\u00E9x|"},
+        {"{\\rtf1\\uc2\\u945abc{\\uc0\\u946 d}\\u-10179??\\u-8704??\\u-8704??}",
+         "\u03B1c\u03B2d\U0001F600\uFFFD|"},
+        {"{\\rtf1{\\fonttbl{\\f0 F;}}{\\*\\new {x}y}{\\info z}{\\pict\\bin3 }}}}\\v h\\v0 s}",
+         "s|"},
+        {"{\\rtf1{\\field{\\*\\fldinst L}{\\fldrslt link}}}behind", "link|"},
+    };
+    for (const auto& [rtf, text] : cases)
+        EXPECT_EQ(Read(rtf), text) << rtf;
+}
+
+TEST(RichText, ReadsTablesEvenBrokenOnes) {
+    const RichText document =
+        ReadRichText("{\\rtf1\\trowd\\cellx100\\cellx900\\intbl a\\par b\\cell"
+                     "\\cell\\row\\intbl c\\cell\\row\\pard d\\par}");
+    EXPECT_EQ(TextOf(document), "[a|b|;;][c|;]d|");
+    EXPECT_EQ(std::get<RichTable>(document.at(0)).Rows.at(0).RightEdges, (std::vector{100, 900}));
+    EXPECT_EQ(Read("{\\rtf1\\intbl a\\cell b\\pard c\\par\\row d\\cell}"), "[a|;]bc|[d|;]");
+    EXPECT_EQ(Read("{\\rtf1\\row\\cell\\row\\row}"), "[;]");
+}
+
+TEST(RichText, WhatIsNoWholeDocumentIsEmpty) {
+    for (const char* broken : {"", "text", "{\\rt", "{\\rtf1 a", "{\\rtf1 a{}", "{\\rtf1 \\"})
+        EXPECT_TRUE(ReadRichText(broken).empty()) << broken;
+}
+
+TEST(RichText, BombsStayWithinBounds) {
+    const std::string deep =
+        "{\\rtf1 " + Repeated("{\\b ", 50000) + "deep" + Repeated("}", 50000) + "x}";
+    EXPECT_EQ(Read(deep), "x|");
+    EXPECT_LE(ReadRichText("{\\rtf1" + Repeated("\\par", 100000) + "}").size(), 5000u);
+    const RichText wide = ReadRichText("{\\rtf1" + Repeated("\\cell", 100000) + "\\row}");
+    EXPECT_EQ(std::get<RichTable>(wide.at(0)).Rows.at(0).Cells.size(), 32u);
+    EXPECT_TRUE(ReadRichText("{\\rtf1 " + std::string(2 << 20, 'a') + "}").empty());
+}
+
+TEST(RichText, SurvivesEveryPrefixAndEveryChangedByte) {
+    const std::string sample =
+        "{\\rtf1{\\colortbl;\\red9;}\\uc1\\u8364?\\'e9{\\b\\cf1 a}\\par{\\*\\x y}"
+        "\\trowd\\cellx9\\intbl b\\cell\\row\\pard\\fi-9 c\\par}";
+    ASSERT_EQ(Read(sample), "\u20AC\u00E9a|[b|;]c|");
+    for (std::size_t length = 0; length < sample.size(); ++length)
+        EXPECT_TRUE(ReadRichText(sample.substr(0, length)).empty());
+    for (std::size_t position = 0; position < sample.size(); ++position)
+        for (int byte = 0; byte < 256; ++byte) {
+            std::string changed = sample;
+            changed.at(position) = static_cast<char>(byte);
+            EXPECT_LE(TextOf(ReadRichText(changed)).size(), 3 * sample.size());
+        }
+}
