@@ -35,7 +35,6 @@ OpenDialog::OpenDialog(QWidget* parent)
 void OpenDialog::Load() {
     txtSelectedFile->clear();
     Lists->Load();
-    Lists->setFocus();
 }
 
 bool OpenDialog::Store() {
@@ -44,8 +43,8 @@ bool OpenDialog::Store() {
 }
 
 SaveDialog::SaveDialog(QWidget* parent)
-    : FormDialog(parent, "frmFileSave", "Save a Quibs Game"), Lists(new FileLists(this)),
-      txtQuibsGameName(new QLineEdit(this)) {
+    : FormDialog(parent, "frmFileSave", "Save a Quibs Game"), txtQuibsGameName(new QLineEdit(this)),
+      Lists(new FileLists(this)) {
     auto* lblQuibsGameName = new QLabel("Quibs Game Name", this);
     lblQuibsGameName->setObjectName("lblQuibsGameName");
     txtQuibsGameName->setObjectName("txtQuibsGameName");
@@ -57,7 +56,6 @@ SaveDialog::SaveDialog(QWidget* parent)
     content->addLayout(name);
     content->addWidget(Lists);
     SetContent(content);
-    setTabOrder(Lists, txtQuibsGameName);
     connect(Lists, &FileLists::GameClicked, txtQuibsGameName, &QLineEdit::setText);
     connect(Lists, &FileLists::GameDoubleClicked, this, &SaveDialog::Ok);
 }

@@ -32,6 +32,6 @@ protected:
     bool Store() override;
 
 private:
-    FileLists* Lists;
     QLineEdit* txtQuibsGameName;
+    FileLists* Lists;
 };

@@ -49,17 +49,19 @@ FileLists::FileLists(QWidget* parent)
     grid->addWidget(dirDirectoryList, 1, 0);
     grid->addWidget(filFileList, 0, 1, 2, 1);
     dirDirectoryList->installEventFilter(this);
+    filFileList->installEventFilter(this);
     const int iconSize = style()->pixelMetric(QStyle::PM_SmallIconSize);
     dirDirectoryList->setIconSize(QSize(iconSize, iconSize));
-    setFocusProxy(filFileList);
 
     connect(&Reader, &DirectoryReader::Done, this, &FileLists::ShowContents);
     connect(drvDriveList, &QComboBox::textActivated, this, &FileLists::ShowDirectory);
     connect(dirDirectoryList, &QListWidget::itemDoubleClicked, this, &FileLists::EnterDirectory);
-    connect(filFileList, &QListWidget::itemSelectionChanged, this, [this] {
+    const auto passOn = [this] {
         for (const QListWidgetItem* selected : filFileList->selectedItems())
             emit GameClicked(selected->text());
-    });
+    };
+    connect(filFileList, &QListWidget::itemSelectionChanged, this, passOn);
+    connect(filFileList, &QListWidget::itemClicked, this, passOn); // that was selected already
     connect(filFileList, &QListWidget::itemDoubleClicked, this, &FileLists::GameDoubleClicked);
 }
 
@@ -69,16 +71,22 @@ void FileLists::Load() {
     const QString current = QDir::currentPath();
     drvDriveList->setCurrentText(DriveOf(current, drvDriveList));
     ShowDirectory(current);
+    filFileList->setFocus();
 }
 
-// Return enters the directory; it must not reach the dialog's Ok.
 bool FileLists::eventFilter(QObject* watched, QEvent* event) {
-    if (watched == dirDirectoryList && event->type() == QEvent::KeyPress) {
-        const int key = static_cast<QKeyEvent*>(event)->key();
-        if (key == Qt::Key_Return || key == Qt::Key_Enter) {
-            EnterDirectory(dirDirectoryList->currentItem());
-            return true;
-        }
+    if (event->type() != QEvent::KeyPress)
+        return QWidget::eventFilter(watched, event);
+    const int key = static_cast<QKeyEvent*>(event)->key();
+    // Return enters the directory; it must not reach the dialog's Ok.
+    if (watched == dirDirectoryList && (key == Qt::Key_Return || key == Qt::Key_Enter)) {
+        EnterDirectory(dirDirectoryList->currentItem());
+        return true;
+    }
+    // The first press goes to the first game; by itself the list would pass it over.
+    if (watched == filFileList && key == Qt::Key_Down && filFileList->selectedItems().isEmpty()) {
+        filFileList->setCurrentRow(0);
+        return true;
     }
     return QWidget::eventFilter(watched, event);
 }

@@ -16,7 +16,7 @@ class FileLists : public QWidget {
 public:
     explicit FileLists(QWidget* parent);
 
-    // Begins again at the current directory.
+    // Begins again at the current directory, with the focus on its games.
     void Load();
 
     // The directory whose games are listed.

@@ -113,7 +113,8 @@ bool PlayersDialog::Store() {
     Game.SettingsChanged = true;
     for (const int player : {1, 2}) {
         const PlayerControls& controls = Players.at(player);
-        Game.PlayerName.at(player) = controls.txtName->text().toStdString();
+        // As displayed: the text itself keeps pasted line breaks.
+        Game.PlayerName.at(player) = controls.txtName->displayText().toStdString();
         Game.PlayerColor.at(player) = controls.shpColor->FillColor();
         Game.PlayerKind.at(player) = ToInteger(controls.Kinds->checkedId());
     }
