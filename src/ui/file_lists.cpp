@@ -116,7 +116,7 @@ void FileLists::ShowContents(const DirectoryContents& contents) {
 }
 
 void FileLists::AddDirectory(const QString& path, const QString& name, int depth) {
-    constexpr int blanksPerStep = 3;
+    constexpr qsizetype blanksPerStep = 3;
     auto* item = new QListWidgetItem(QString(depth * blanksPerStep, ' ') + name, dirDirectoryList);
     item->setIcon(style()->standardIcon(QStyle::SP_DirIcon));
     item->setData(PathRole, path);

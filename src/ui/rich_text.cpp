@@ -133,7 +133,7 @@ void Reader::OpenGroup() {
     else if (DeeperGroups > 0 || Groups.size() == MostGroups)
         ++DeeperGroups;
     else
-        Groups.push_back(Group(Groups.back()));
+        Groups.emplace_back(Groups.back());
 }
 
 void Reader::CloseGroup() {
