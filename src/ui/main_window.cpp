@@ -24,6 +24,7 @@
 namespace {
 
 constexpr QSize InitialSize(640, 580);
+constexpr QSize RoomForFrame(80, 80); // a centred window keeps its title and borders on the screen
 constexpr int NarrowestCentredScreen = 1024; // pixels
 constexpr int IconSize = 24;
 constexpr int SmallestPictureSpacings = 3;
@@ -162,7 +163,7 @@ void MainWindow::BuildToolBar() {
 void MainWindow::PlaceOnScreen() {
     const QScreen* screen = QApplication::primaryScreen();
     const QRect area = screen->geometry();
-    resize(InitialSize.boundedTo(screen->availableSize()));
+    resize(InitialSize.boundedTo(screen->availableSize() - RoomForFrame));
     if (area.width() >= NarrowestCentredScreen) {
         move(area.left() + (area.width() - width()) / 2,
              area.top() + (area.height() - height()) / 2);
