@@ -176,6 +176,8 @@ void MainWindow::PlaceOnScreen() {
 }
 
 void MainWindow::KeepOnScreen(const QRect& workArea) {
+    if (isMaximized() || isFullScreen())
+        return; // the desktop keeps such a window on the screen, and moving it would end that state
     QRect frame = frameGeometry();
     const QSize borders = frame.size() - size();
     if (workArea.height() < frame.height()) {
