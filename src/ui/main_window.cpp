@@ -111,7 +111,7 @@ void MainWindow::BuildMenus() {
     AddCommand(help, Command::QuibsHelp, "mnuQuibsHelp", "Quibs &Help", "Ctrl+H");
     AddCommand(help, Command::History, "mnuHistory", "Quibs Histor&y", "Ctrl+Y");
     help->addSeparator();
-    AddCommand(help, Command::About, "mnuAbout", "&About", "Ctrl+B");
+    AddCommand(help, Command::About, "mnuAbout", "A&bout", "Ctrl+B");
 }
 
 QAction* MainWindow::AddCommand(QMenu* menu, Command command, const char* objectName,
