@@ -25,6 +25,7 @@
 namespace {
 
 constexpr QSize InitialSize(640, 580);
+constexpr QSize RoomForFrame(80, 80); // a centred window keeps its title and borders on the screen
 constexpr int NarrowestCentredScreen = 1024; // pixels
 constexpr int IconSize = 24;
 constexpr int SmallestPictureSpacings = 3;
@@ -112,7 +113,7 @@ void MainWindow::BuildMenus() {
     AddCommand(help, Command::QuibsHelp, "mnuQuibsHelp", "Quibs &Help", "Ctrl+H");
     AddCommand(help, Command::History, "mnuHistory", "Quibs Histor&y", "Ctrl+Y");
     help->addSeparator();
-    AddCommand(help, Command::About, "mnuAbout", "&About", "Ctrl+B");
+    AddCommand(help, Command::About, "mnuAbout", "A&bout", "Ctrl+B");
 }
 
 QAction* MainWindow::AddCommand(QMenu* menu, Command command, const char* objectName,
@@ -164,7 +165,7 @@ void MainWindow::BuildToolBar() {
 void MainWindow::PlaceOnScreen() {
     const QScreen* screen = QApplication::primaryScreen();
     const QRect area = screen->geometry();
-    resize(InitialSize.boundedTo(screen->availableSize()));
+    resize(InitialSize.boundedTo(screen->availableSize() - RoomForFrame));
     if (area.width() >= NarrowestCentredScreen) {
         move(area.left() + (area.width() - width()) / 2,
              area.top() + (area.height() - height()) / 2);
@@ -177,6 +178,8 @@ void MainWindow::PlaceOnScreen() {
 }
 
 void MainWindow::KeepOnScreen(const QRect& workArea) {
+    if (isMaximized() || isFullScreen())
+        return; // the desktop keeps such a window on the screen, and moving it would end that state
     QRect frame = frameGeometry();
     const QSize borders = frame.size() - size();
     if (workArea.height() < frame.height()) {
