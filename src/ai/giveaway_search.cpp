@@ -1,0 +1,236 @@
+#include "ai/giveaway_search.h"
+
+#include <algorithm>
+#include <limits>
+
+#include "core/game_state.h"
+#include "platform/desktop.h"
+
+namespace {
+
+constexpr int ToTheEnd = 1 << 20; // choices looked at
+constexpr long StepsToTheEnd = 300'000;
+constexpr long StepsAhead = 200'000;
+constexpr long StepsBetweenYields = 10'000;
+
+// What a decliner leaves of a run that was given to him.
+int BoxesDeclined(const Run& run) {
+    return run.IsRing() ? 4 : 2;
+}
+
+} // namespace
+
+void Position::Add(PieceNumber number, std::uint64_t pieceCode, int count) {
+    Code += pieceCode * static_cast<std::uint64_t>(count);
+    const auto share =
+        std::lower_bound(Shares.begin(), Shares.end(), number,
+                         [](const Share& s, PieceNumber wanted) { return s.Piece < wanted; });
+    if (share == Shares.end() || share->Piece != number)
+        Shares.insert(share, {number, count});
+    else if ((share->Count += count) == 0)
+        Shares.erase(share);
+}
+
+GiveawaySearch::GiveawaySearch(int mover, int opponent) : Kinds{mover, opponent} {}
+
+std::vector<double> GiveawaySearch::Judge(const std::vector<Run>& runs,
+                                          const std::vector<int>& candidates) {
+    std::vector<RunPlace> places;
+    Levels.resize(1);
+    for (const PieceNumber number : Catalogue.Enter(runs, &places))
+        Levels.at(0).Add(number, Catalogue.CodeOf(number), 1);
+    std::vector<RunPlace> chosen;
+    for (const int candidate : candidates)
+        chosen.push_back(places.at(candidate));
+
+    // Something is known even if nothing is judged: the smaller, the better.
+    std::vector<double> margins;
+    for (const RunPlace& place : chosen)
+        margins.push_back(-Catalogue.At(place.Piece).Giveaways.at(place.Position).Boxes);
+    StepsLeft = StepsToTheEnd;
+    StepsToYield = StepsBetweenYields;
+    try {
+        return JudgeAhead(chosen, ToTheEnd);
+    } catch (const Interruption&) {
+    }
+    StepsLeft = StepsAhead;
+    try {
+        for (int ahead = 0; !Game.ProgramEnding && !Game.QuitRequested; ++ahead)
+            margins = JudgeAhead(chosen, ahead);
+    } catch (const Interruption&) {
+    }
+    return margins;
+}
+
+std::vector<double> GiveawaySearch::JudgeAhead(const std::vector<RunPlace>& candidates, int ahead) {
+    std::vector<double> margins;
+    for (const RunPlace& place : candidates)
+        margins.push_back(ValueOfGiveaway({0, 0, ahead}, place));
+    return margins;
+}
+
+double GiveawaySearch::ValueOf(const Turn& turn) {
+    if (turn.Ahead == 0)
+        return ValueOfFirstSmallest(turn);
+    return KindOf(turn) == ComputerAverage ? MeanOfSmallest(turn) : BestOfAll(turn);
+}
+
+int GiveawaySearch::SmallestSize(const Turn& turn) {
+    int smallest = std::numeric_limits<int>::max();
+    for (const Position::Share& share : Levels.at(turn.Level).Shares)
+        smallest = std::min(smallest, Catalogue.At(share.Piece).Smallest);
+    return smallest;
+}
+
+double GiveawaySearch::ValueOfFirstSmallest(const Turn& turn) {
+    const int smallest = SmallestSize(turn);
+    for (const Position::Share& share : Levels.at(turn.Level).Shares) {
+        const Piece& piece = Catalogue.At(share.Piece);
+        for (int run = 0; run < piece.RunCount(); ++run)
+            if (piece.Giveaways.at(run).Boxes == smallest)
+                return ValueOfOpening(turn, {share.Piece, run}, true);
+    }
+    return 0;
+}
+
+double GiveawaySearch::MeanOfSmallest(const Turn& turn) {
+    const int smallest = SmallestSize(turn);
+    double sum = 0;
+    int count = 0;
+    for (const Position::Share& share : Levels.at(turn.Level).Shares) {
+        const Piece& piece = Catalogue.At(share.Piece);
+        for (int run = 0; run < piece.RunCount(); ++run) {
+            if (piece.Giveaways.at(run).Boxes != smallest)
+                continue;
+            sum += share.Count * ValueOfGiveaway(turn, {share.Piece, run});
+            count += share.Count;
+        }
+    }
+    return sum / count;
+}
+
+double GiveawaySearch::BestOfAll(const Turn& turn) {
+    double best = std::numeric_limits<double>::lowest();
+    for (const Position::Share& share : Levels.at(turn.Level).Shares) {
+        if (!IsWorthAThought(turn, share.Piece))
+            continue;
+        const Piece& piece = Catalogue.At(share.Piece);
+        for (int run = 0; run < piece.RunCount(); ++run)
+            if (piece.Giveaways.at(run).SameAs < 0)
+                best = std::max(best, ValueOfGiveaway(turn, {share.Piece, run}));
+    }
+    return best;
+}
+
+bool GiveawaySearch::IsWorthAThought(const Turn&, PieceNumber) {
+    return true;
+}
+
+// The row of a run, with the line in it as its player draws it.
+double GiveawaySearch::ValueOfGiveaway(const Turn& turn, RunPlace place) {
+    const Piece& piece = Catalogue.At(place.Piece);
+    const Giveaway& given = piece.Giveaways.at(place.Position);
+    const int kind = KindOf(turn);
+    const bool isPair = given.Boxes == 2;
+    if (kind == Humanoid) {
+        const double whole = ValueOfOpening(turn, place, true);
+        return isPair ? std::max(whole, ValueOfOpening(turn, place, false)) : whole;
+    }
+    if (isPair && kind != ComputerAverage)
+        return ValueOfOpening(turn, place, true);
+    const double own = ValueOfAnyLine(turn, place);
+    if (given.Behind < 0)
+        return own;
+    const double behind = ValueOfAnyLine(turn, {place.Piece, given.Behind});
+    const int ownLines = piece.Runs.at(place.Position).LineCount();
+    const int linesBehind = piece.Runs.at(given.Behind).LineCount();
+    return (ownLines * own + linesBehind * behind) / (ownLines + linesBehind);
+}
+
+// The mean over the lines of the run. Two boxes are left whole by one line of three.
+double GiveawaySearch::ValueOfAnyLine(const Turn& turn, RunPlace place) {
+    const double whole = ValueOfOpening(turn, place, true);
+    if (Catalogue.At(place.Piece).Giveaways.at(place.Position).Boxes != 2 ||
+        OpponentKindOf(turn) == ComputerAverage || OpponentKindOf(turn) == ComputerIntelligent)
+        return whole;
+    return (whole + 2 * ValueOfOpening(turn, place, false)) / 3;
+}
+
+// `leavesPairWhole` tells, of two boxes, that the line between them was drawn, so that both must be
+// taken or neither.
+double GiveawaySearch::ValueOfOpening(const Turn& turn, RunPlace place, bool leavesPairWhole) {
+    const Piece& piece = Catalogue.At(place.Piece);
+    const Giveaway& given = piece.Giveaways.at(place.Position);
+    const int taker = 1 - turn.Player;
+    const int takerKind = Kinds.at(taker);
+    const bool canDecline = given.Boxes > 2 || (given.Boxes == 2 && !leavesPairWhole);
+    const bool mustDecline = canDecline && takerKind == ComputerCheat;
+    const bool mayDecline = canDecline && takerKind == Humanoid && KindOf(turn) == ComputerCheat;
+    const auto& shares = Levels.at(turn.Level).Shares;
+    const bool isLast = given.Rest.empty() && shares.size() == 1 && shares.front().Count == 1;
+    if (mustDecline && isLast && given.Boxes > 2)
+        return -given.Boxes;
+
+    const auto valueOfTaking = [&] { return -given.Boxes - ValueAfter(turn, place, taker); };
+    const auto valueOfDeclining = [&] {
+        const int declined = BoxesDeclined(piece.Runs.at(place.Position));
+        return 2 * declined - given.Boxes + ValueAfter(turn, place, turn.Player);
+    };
+    if (mustDecline)
+        return valueOfDeclining();
+    if (mayDecline)
+        return std::min(valueOfTaking(), valueOfDeclining());
+    return valueOfTaking();
+}
+
+// The margin for `nextPlayer`, who must give away when what was given in `turn` has been taken.
+double GiveawaySearch::ValueAfter(const Turn& turn, RunPlace place, int nextPlayer) {
+    const Position& before = Levels.at(turn.Level);
+    const Giveaway& given = Catalogue.At(place.Piece).Giveaways.at(place.Position);
+    Turn next{turn.Level + 1, nextPlayer, turn.Ahead};
+    if (turn.Ahead < ToTheEnd && turn.Ahead > 0 && KindOf(turn) != ComputerAverage)
+        --next.Ahead;
+
+    std::uint64_t code = before.Code - Catalogue.CodeOf(place.Piece);
+    for (const PieceNumber rest : given.Rest)
+        code += Catalogue.CodeOf(rest);
+    const bool nothingIsLeft =
+        given.Rest.empty() && before.Shares.size() == 1 && before.Shares.front().Count == 1;
+    if (nothingIsLeft)
+        return 0;
+    constexpr std::uint64_t playerCode = 0x9E3779B97F4A7C15U;
+    constexpr std::uint64_t aheadCode = 0xD1B54A32D192ED03U;
+    const std::uint64_t turnCode = code ^ (playerCode * (nextPlayer + 1));
+    if (const double* known = Values.Find(turnCode))
+        return *known;
+    const std::uint64_t key =
+        next.Ahead == ToTheEnd ? turnCode : turnCode ^ (aheadCode * (next.Ahead + 1));
+    if (const double* known = Values.Find(key))
+        return *known;
+
+    if (static_cast<int>(Levels.size()) <= next.Level)
+        Levels.emplace_back();
+    Position& after = Levels.at(next.Level);
+    after = before;
+    after.Add(place.Piece, Catalogue.CodeOf(place.Piece), -1);
+    for (const PieceNumber rest : given.Rest)
+        after.Add(rest, Catalogue.CodeOf(rest), 1);
+    CountSteps(1 + static_cast<long>(after.Shares.size()) / 8);
+    const double value = ValueOf(next);
+    Values.Store(key, value);
+    return value;
+}
+
+void GiveawaySearch::CountSteps(long steps) {
+    const long all = steps + Catalogue.TakeSteps() / 8;
+    StepsLeft -= all;
+    StepsToYield -= all;
+    if (StepsToYield < 0) {
+        StepsToYield = StepsBetweenYields;
+        YieldToEvents(0);
+        if (Game.ProgramEnding || Game.QuitRequested)
+            throw Interruption{};
+    }
+    if (StepsLeft < 0)
+        throw Interruption{};
+}
