@@ -1,5 +1,6 @@
 // Lets two kinds of computer players play many games, and prints how strong the first one is.
 //   match FIRST SECOND COLUMNS ROWS GAMES [SEED]      kinds: 1 Average, 2 Intelligent, 3 Cheat
+#include <algorithm>
 #include <chrono>
 #include <cmath>
 #include <cstdio>
@@ -42,16 +43,27 @@ struct Tally {
     }
 };
 
-// Each entry is how long a player took to choose one line, in milliseconds, by kind.
+// The longest time to choose a line, by kind, and the longest without letting the window answer.
 std::vector<double> LongestOfKind(4, 0.0);
+double LongestStretch = 0;
+SteadyClock::time_point LastYield;
+
+double MillisecondsSince(SteadyClock::time_point start) {
+    return std::chrono::duration<double, std::milli>(SteadyClock::now() - start).count();
+}
+
+void NoteYield() {
+    LongestStretch = std::max(LongestStretch, MillisecondsSince(LastYield));
+    LastYield = SteadyClock::now();
+}
 
 void PlayTurn() {
     const int kind = Game.PlayerKind.at(Game.CurrentPlayer);
     Game.ChosenLine = 0;
-    const auto start = SteadyClock::now();
+    const auto start = LastYield = SteadyClock::now();
     ChooseComputerMove();
-    const std::chrono::duration<double, std::milli> taken = SteadyClock::now() - start;
-    LongestOfKind.at(kind) = std::max(LongestOfKind.at(kind), taken.count());
+    NoteYield();
+    LongestOfKind.at(kind) = std::max(LongestOfKind.at(kind), MillisecondsSince(start));
     ApplyMove();
 }
 
@@ -91,14 +103,15 @@ int main(int count, char** arguments) {
     const auto number = [&](int position) { return std::atoi(arguments[position]); };
     // Room for the largest field.
     TheNullDesktop.PictureWidth = TheNullDesktop.PictureHeight = 32700;
+    TheNullDesktop.WhenYielding = NoteYield;
     Form_Load();
     SeedRandom(count > 6 ? number(6) : 1);
     const Tally tally = PlayMatch(number(1), number(2), number(3), number(4), number(5));
     std::printf("%d against %d, %d by %d, %d games: points %.1f %%, margin %+.2f (+-%.2f), "
-                "wins %.1f %%, longest choice %.0f ms and %.0f ms\n",
+                "wins %.1f %%, longest choice %.0f ms and %.0f ms, longest stretch %.0f ms\n",
                 number(1), number(2), static_cast<int>(Game.GridColumns),
                 static_cast<int>(Game.GridRows), tally.Games, 100 * tally.Points / tally.Games,
                 tally.MeanMargin(), tally.MarginError(), 100.0 * tally.Wins / tally.Games,
-                LongestOfKind.at(number(1)), LongestOfKind.at(number(2)));
+                LongestOfKind.at(number(1)), LongestOfKind.at(number(2)), LongestStretch);
     return 0;
 }

@@ -9,8 +9,8 @@
 namespace {
 
 constexpr int ToTheEnd = 1 << 20; // choices looked at
-constexpr long StepsToTheEnd = 300'000;
-constexpr long StepsAhead = 200'000;
+constexpr long StepsToTheEnd = 200'000;
+constexpr long StepsAhead = 100'000;
 constexpr long StepsBetweenYields = 10'000;
 
 // What a decliner leaves of a run that was given to him.
@@ -112,9 +112,9 @@ double GiveawaySearch::MeanOfSmallest(const Turn& turn) {
 double GiveawaySearch::BestOfAll(const Turn& turn) {
     double best = std::numeric_limits<double>::lowest();
     for (const Position::Share& share : Levels.at(turn.Level).Shares) {
-        if (!IsWorthAThought(turn, share.Piece))
-            continue;
         const Piece& piece = Catalogue.At(share.Piece);
+        if (IsDominated(turn, piece))
+            continue;
         for (int run = 0; run < piece.RunCount(); ++run)
             if (piece.Giveaways.at(run).SameAs < 0)
                 best = std::max(best, ValueOfGiveaway(turn, {share.Piece, run}));
@@ -122,8 +122,25 @@ double GiveawaySearch::BestOfAll(const Turn& turn) {
     return best;
 }
 
-bool GiveawaySearch::IsWorthAThought(const Turn&, PieceNumber) {
-    return true;
+// Of lone runs that are played in the same way only the smallest can be best, provided that the
+// opponent chooses for the best too: whatever is possible with one is possible with the other.
+bool GiveawaySearch::IsDominated(const Turn& turn, const Piece& piece) {
+    const bool isCertain = OpponentKindOf(turn) != ComputerAverage;
+    if (piece.RunCount() > 1 || (turn.Ahead == ToTheEnd && !isCertain))
+        return false;
+    for (const Position::Share& share : Levels.at(turn.Level).Shares) {
+        const Piece& other = Catalogue.At(share.Piece);
+        if (other.RunCount() == 1 && other.Smallest < piece.Smallest &&
+            ArePlayedAlike(other.Runs.at(0), piece.Runs.at(0)))
+            return true;
+    }
+    return false;
+}
+
+// Runs that are declined in the same way; where everything is taken, all are alike.
+bool GiveawaySearch::ArePlayedAlike(const Run& smaller, const Run& larger) const {
+    const bool someoneDeclines = std::count(Kinds.begin(), Kinds.end(), ComputerCheat) > 0;
+    return !someoneDeclines || (smaller.IsRing() == larger.IsRing() && smaller.Boxes > 2);
 }
 
 // The row of a run, with the line in it as its player draws it.

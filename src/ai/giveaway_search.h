@@ -52,7 +52,8 @@ private:
     double ValueOfFirstSmallest(const Turn& turn);
     double MeanOfSmallest(const Turn& turn);
     double BestOfAll(const Turn& turn);
-    bool IsWorthAThought(const Turn& turn, PieceNumber number);
+    bool IsDominated(const Turn& turn, const Piece& piece);
+    bool ArePlayedAlike(const Run& smaller, const Run& larger) const;
     int SmallestSize(const Turn& turn);
 
     double ValueOfGiveaway(const Turn& turn, RunPlace place);
