@@ -9,9 +9,19 @@
 namespace {
 
 constexpr int ToTheEnd = 1 << 20; // choices looked at
+
+// A step is a position set up, worth about a microsecond. Up to twenty runs the first budget has
+// always sufficed; so many more that it never does are not followed to the end at all.
 constexpr long StepsToTheEnd = 200'000;
 constexpr long StepsAhead = 100'000;
+constexpr std::size_t MostRunsToTheEnd = 60;
 constexpr long StepsBetweenYields = 10'000;
+
+std::uint64_t MemoryCode(std::uint64_t positionCode, int player, int ahead) {
+    constexpr std::uint64_t playerFactor = 0x9E3779B97F4A7C15U;
+    constexpr std::uint64_t aheadFactor = 0xD1B54A32D192ED03U;
+    return positionCode ^ (playerFactor * (player + 1)) ^ (aheadFactor * ahead);
+}
 
 // What a decliner leaves of a run that was given to him.
 int BoxesDeclined(const Run& run) {
@@ -38,25 +48,34 @@ std::vector<double> GiveawaySearch::Judge(const std::vector<Run>& runs,
     std::vector<RunPlace> places;
     Levels.resize(1);
     for (const PieceNumber number : Catalogue.Enter(runs, &places))
-        Levels.at(0).Add(number, Catalogue.CodeOf(number), 1);
+        Levels.at(0).Add(number, Catalogue.At(number).Code, 1);
     std::vector<RunPlace> chosen;
     for (const int candidate : candidates)
         chosen.push_back(places.at(candidate));
 
+    StepsToYield = StepsBetweenYields;
+    StepsLeft = StepsToTheEnd;
+    if (runs.size() <= MostRunsToTheEnd) {
+        try {
+            return JudgeAhead(chosen, ToTheEnd);
+        } catch (const Interruption&) {
+            StepsLeft = 0;
+        }
+    }
+    StepsLeft += StepsAhead;
+    return JudgeFurtherAndFurther(chosen);
+}
+
+// As many choices ahead as the steps allow.
+std::vector<double>
+GiveawaySearch::JudgeFurtherAndFurther(const std::vector<RunPlace>& candidates) {
     // Something is known even if nothing is judged: the smaller, the better.
     std::vector<double> margins;
-    for (const RunPlace& place : chosen)
+    for (const RunPlace& place : candidates)
         margins.push_back(-Catalogue.At(place.Piece).Giveaways.at(place.Position).Boxes);
-    StepsLeft = StepsToTheEnd;
-    StepsToYield = StepsBetweenYields;
-    try {
-        return JudgeAhead(chosen, ToTheEnd);
-    } catch (const Interruption&) {
-    }
-    StepsLeft = StepsAhead;
     try {
         for (int ahead = 0; !Game.ProgramEnding && !Game.QuitRequested; ++ahead)
-            margins = JudgeAhead(chosen, ahead);
+            margins = JudgeAhead(candidates, ahead);
     } catch (const Interruption&) {
     }
     return margins;
@@ -116,8 +135,7 @@ double GiveawaySearch::BestOfAll(const Turn& turn) {
         if (IsDominated(turn, piece))
             continue;
         for (int run = 0; run < piece.RunCount(); ++run)
-            if (piece.Giveaways.at(run).SameAs < 0)
-                best = std::max(best, ValueOfGiveaway(turn, {share.Piece, run}));
+            best = std::max(best, ValueOfGiveaway(turn, {share.Piece, run}));
     }
     return best;
 }
@@ -183,9 +201,7 @@ double GiveawaySearch::ValueOfOpening(const Turn& turn, RunPlace place, bool lea
     const bool canDecline = given.Boxes > 2 || (given.Boxes == 2 && !leavesPairWhole);
     const bool mustDecline = canDecline && takerKind == ComputerCheat;
     const bool mayDecline = canDecline && takerKind == Humanoid && KindOf(turn) == ComputerCheat;
-    const auto& shares = Levels.at(turn.Level).Shares;
-    const bool isLast = given.Rest.empty() && shares.size() == 1 && shares.front().Count == 1;
-    if (mustDecline && isLast && given.Boxes > 2)
+    if (mustDecline && given.Boxes > 2 && EndsTheGame(turn, place))
         return -given.Boxes;
 
     const auto valueOfTaking = [&] { return -given.Boxes - ValueAfter(turn, place, taker); };
@@ -200,42 +216,47 @@ double GiveawaySearch::ValueOfOpening(const Turn& turn, RunPlace place, bool lea
     return valueOfTaking();
 }
 
+bool GiveawaySearch::EndsTheGame(const Turn& turn, RunPlace place) {
+    const auto& shares = Levels.at(turn.Level).Shares;
+    return shares.size() == 1 && shares.front().Count == 1 && Catalogue.RestAfter(place).empty();
+}
+
 // The margin for `nextPlayer`, who must give away when what was given in `turn` has been taken.
 double GiveawaySearch::ValueAfter(const Turn& turn, RunPlace place, int nextPlayer) {
-    const Position& before = Levels.at(turn.Level);
-    const Giveaway& given = Catalogue.At(place.Piece).Giveaways.at(place.Position);
-    Turn next{turn.Level + 1, nextPlayer, turn.Ahead};
-    if (turn.Ahead < ToTheEnd && turn.Ahead > 0 && KindOf(turn) != ComputerAverage)
-        --next.Ahead;
-
-    std::uint64_t code = before.Code - Catalogue.CodeOf(place.Piece);
-    for (const PieceNumber rest : given.Rest)
-        code += Catalogue.CodeOf(rest);
-    const bool nothingIsLeft =
-        given.Rest.empty() && before.Shares.size() == 1 && before.Shares.front().Count == 1;
-    if (nothingIsLeft)
+    if (EndsTheGame(turn, place))
         return 0;
-    constexpr std::uint64_t playerCode = 0x9E3779B97F4A7C15U;
-    constexpr std::uint64_t aheadCode = 0xD1B54A32D192ED03U;
-    const std::uint64_t turnCode = code ^ (playerCode * (nextPlayer + 1));
-    if (const double* known = Values.Find(turnCode))
+    Turn next{turn.Level + 1, nextPlayer, turn.Ahead};
+    if (turn.Ahead > 0 && turn.Ahead < ToTheEnd && KindOf(turn) != ComputerAverage)
+        --next.Ahead;
+    const std::uint64_t code = CodeAfter(turn, place);
+    if (const double* known = Values.Find(MemoryCode(code, nextPlayer, ToTheEnd)))
         return *known;
-    const std::uint64_t key =
-        next.Ahead == ToTheEnd ? turnCode : turnCode ^ (aheadCode * (next.Ahead + 1));
-    if (const double* known = Values.Find(key))
+    const std::uint64_t memoryCode = MemoryCode(code, nextPlayer, next.Ahead);
+    if (const double* known = Values.Find(memoryCode))
         return *known;
-
-    if (static_cast<int>(Levels.size()) <= next.Level)
-        Levels.emplace_back();
-    Position& after = Levels.at(next.Level);
-    after = before;
-    after.Add(place.Piece, Catalogue.CodeOf(place.Piece), -1);
-    for (const PieceNumber rest : given.Rest)
-        after.Add(rest, Catalogue.CodeOf(rest), 1);
-    CountSteps(1 + static_cast<long>(after.Shares.size()) / 8);
+    SetUpAfter(turn, place);
     const double value = ValueOf(next);
-    Values.Store(key, value);
+    Values.Store(memoryCode, value);
     return value;
+}
+
+std::uint64_t GiveawaySearch::CodeAfter(const Turn& turn, RunPlace place) {
+    std::uint64_t code = Levels.at(turn.Level).Code - Catalogue.At(place.Piece).Code;
+    for (const PieceNumber rest : Catalogue.RestAfter(place))
+        code += Catalogue.At(rest).Code;
+    return code;
+}
+
+// Leaves the position in the level behind that of `turn`.
+void GiveawaySearch::SetUpAfter(const Turn& turn, RunPlace place) {
+    if (static_cast<int>(Levels.size()) == turn.Level + 1)
+        Levels.emplace_back();
+    Position& after = Levels.at(turn.Level + 1);
+    after = Levels.at(turn.Level);
+    after.Add(place.Piece, Catalogue.At(place.Piece).Code, -1);
+    for (const PieceNumber rest : Catalogue.RestAfter(place))
+        after.Add(rest, Catalogue.At(rest).Code, 1);
+    CountSteps(1 + static_cast<long>(after.Shares.size()) / 8);
 }
 
 void GiveawaySearch::CountSteps(long steps) {

@@ -47,6 +47,7 @@ private:
     int KindOf(const Turn& turn) const { return Kinds.at(turn.Player); }
     int OpponentKindOf(const Turn& turn) const { return Kinds.at(1 - turn.Player); }
 
+    std::vector<double> JudgeFurtherAndFurther(const std::vector<RunPlace>& candidates);
     std::vector<double> JudgeAhead(const std::vector<RunPlace>& candidates, int ahead);
     double ValueOf(const Turn& turn);
     double ValueOfFirstSmallest(const Turn& turn);
@@ -60,6 +61,9 @@ private:
     double ValueOfAnyLine(const Turn& turn, RunPlace place);
     double ValueOfOpening(const Turn& turn, RunPlace place, bool leavesPairWhole);
     double ValueAfter(const Turn& turn, RunPlace place, int nextPlayer);
+    bool EndsTheGame(const Turn& turn, RunPlace place);
+    std::uint64_t CodeAfter(const Turn& turn, RunPlace place);
+    void SetUpAfter(const Turn& turn, RunPlace place);
     void CountSteps(long steps);
 
     std::array<int, 2> Kinds;

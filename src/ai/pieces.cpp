@@ -21,8 +21,6 @@ public:
         Take(position);
     }
 
-    Giveaway Given;
-
     std::vector<Run> RunsLeft() const {
         std::vector<Run> left;
         for (std::size_t i = 0; i < Left.size(); ++i)
@@ -35,7 +33,6 @@ private:
     void Take(int position) {
         const Run taken = Left.at(position);
         IsGone.at(position) = true;
-        Given.Boxes += taken.Boxes;
         for (const int end : taken.Ends)
             if (end > 0)
                 Settle(end);
@@ -50,8 +47,6 @@ private:
                     if (end == joint)
                         ways.push_back(static_cast<int>(i));
         if (ways.size() == 1) {
-            ++Given.Boxes;
-            Given.Behind = ways.at(0);
             Take(ways.at(0));
         } else if (ways.size() == 2) {
             Join(joint, ways.at(0), ways.at(1));
@@ -169,16 +164,27 @@ struct NormalForm {
     std::vector<int> Order; // which of the runs given stands at each position
 };
 
-// An earlier run of the piece whose opening comes to the same as that of the last, -1 = none.
-int FindSame(const Piece& piece, const Giveaway& last) {
-    const Run& run = piece.Runs.at(piece.Giveaways.size());
-    for (int other = 0; other < static_cast<int>(piece.Giveaways.size()); ++other) {
-        const Giveaway& earlier = piece.Giveaways.at(other);
-        if (earlier.Boxes == last.Boxes && earlier.Rest == last.Rest &&
-            earlier.Behind == last.Behind && piece.Runs.at(other).Boxes == run.Boxes)
-            return other;
+// A run from a joint back to it takes the joint with it if a single other run meets it there, and
+// then that run as well.
+std::vector<Giveaway> FindGiveaways(const std::vector<Run>& runs) {
+    std::vector<std::vector<int>> runsAt(static_cast<std::size_t>(JointCount(runs)) + 1);
+    for (std::size_t i = 0; i < runs.size(); ++i)
+        for (const int end : runs.at(i).Ends)
+            if (end > 0)
+                runsAt.at(end).push_back(static_cast<int>(i));
+    std::vector<Giveaway> giveaways;
+    for (std::size_t i = 0; i < runs.size(); ++i) {
+        const Run& run = runs.at(i);
+        Giveaway& given = giveaways.emplace_back();
+        given.Boxes = run.Boxes;
+        if (run.Ends[0] <= 0 || run.Ends[0] != run.Ends[1] || runsAt.at(run.Ends[0]).size() != 3)
+            continue;
+        for (const int other : runsAt.at(run.Ends[0]))
+            if (other != static_cast<int>(i))
+                given.Behind = other;
+        given.Boxes += 1 + runs.at(given.Behind).Boxes;
     }
-    return -1;
+    return giveaways;
 }
 
 std::u16string KeyOf(const std::vector<Run>& runs) {
@@ -215,26 +221,23 @@ PieceNumber PieceCatalogue::Intern(const std::vector<Run>& runs) {
     if (isNew) {
         Piece& piece = Pieces.emplace_back();
         piece.Runs = runs;
+        piece.Giveaways = FindGiveaways(runs);
+        piece.Smallest =
+            std::min_element(piece.Giveaways.begin(), piece.Giveaways.end(),
+                             [](const Giveaway& a, const Giveaway& b) { return a.Boxes < b.Boxes; })
+                ->Boxes;
         piece.Code = MixSignature((entry->second + 1) * 0x9E3779B97F4A7C15U);
     }
     return entry->second;
 }
 
-const Piece& PieceCatalogue::At(PieceNumber number) {
-    Piece& piece = Pieces.at(number);
-    if (piece.Giveaways.empty())
-        WorkOutGiveaways(piece);
-    return piece;
-}
-
-void PieceCatalogue::WorkOutGiveaways(Piece& piece) {
-    for (std::size_t position = 0; position < piece.Runs.size(); ++position) {
-        const Opening opening(piece.Runs, static_cast<int>(position));
-        Giveaway given = opening.Given;
-        given.Rest = Enter(opening.RunsLeft());
-        given.SameAs = FindSame(piece, given);
-        piece.Smallest = position == 0 ? given.Boxes : std::min(piece.Smallest, given.Boxes);
-        piece.Giveaways.push_back(std::move(given));
-        StepsDone += static_cast<long>(piece.Runs.size());
+const std::vector<PieceNumber>& PieceCatalogue::RestAfter(RunPlace opened) {
+    const Piece& piece = Pieces.at(opened.Piece);
+    Giveaway& given = Pieces.at(opened.Piece).Giveaways.at(opened.Position);
+    if (!given.IsRestKnown) {
+        given.IsRestKnown = true;
+        given.Rest = Enter(Opening(piece.Runs, opened.Position).RunsLeft());
+        StepsDone += piece.RunCount();
     }
+    return given.Rest;
 }

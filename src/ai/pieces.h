@@ -29,15 +29,17 @@ using PieceNumber = int; // from 0, in the order in which the pieces were met
 
 // One run of a piece as something to give away.
 struct Giveaway {
-    int Boxes = 0;                 // what the opponent may take
-    int Behind = -1;               // the run that falls with this one, -1 = none
-    int SameAs = -1;               // an earlier run of the piece that is worth the same, -1 = none
-    std::vector<PieceNumber> Rest; // what is left when everything given away has been taken
+    int Boxes = 0;   // what the opponent may take
+    int Behind = -1; // the run that falls with this one, -1 = none
+
+    // What is left when everything given away has been taken, once that has been asked for.
+    bool IsRestKnown = false;
+    std::vector<PieceNumber> Rest;
 };
 
 struct Piece {
     std::vector<Run> Runs;
-    std::vector<Giveaway> Giveaways; // one for each run; empty until they are worked out
+    std::vector<Giveaway> Giveaways; // one for each run
     int Smallest = 0;                // boxes of the smallest giveaway
     std::uint64_t Code = 0;          // random, so that a sum of codes stands for a set of pieces
 
@@ -57,17 +59,16 @@ public:
     std::vector<PieceNumber> Enter(const std::vector<Run>& runs,
                                    std::vector<RunPlace>* places = nullptr);
 
-    // The piece with its giveaways worked out.
-    const Piece& At(PieceNumber number);
+    const Piece& At(PieceNumber number) const { return Pieces.at(number); }
 
-    std::uint64_t CodeOf(PieceNumber number) const { return Pieces.at(number).Code; }
+    // The pieces that are left when the run has been opened and everything has been taken.
+    const std::vector<PieceNumber>& RestAfter(RunPlace opened);
 
     // Work done since the last call, in runs looked at.
     long TakeSteps() { return std::exchange(StepsDone, 0); }
 
 private:
     PieceNumber Intern(const std::vector<Run>& runs);
-    void WorkOutGiveaways(Piece& piece);
 
     std::deque<Piece> Pieces;
     std::unordered_map<std::u16string, PieceNumber> Numbers;
