@@ -15,7 +15,7 @@ constexpr int ToTheEnd = 1 << 20; // choices looked at
 constexpr long StepsToTheEnd = 200'000;
 constexpr long StepsAhead = 100'000;
 constexpr std::size_t MostRunsToTheEnd = 60;
-constexpr long StepsBetweenYields = 10'000;
+constexpr long StepsBetweenYields = 4'000;
 
 std::uint64_t MemoryCode(std::uint64_t positionCode, int player, int ahead) {
     constexpr std::uint64_t playerFactor = 0x9E3779B97F4A7C15U;
