@@ -2,13 +2,12 @@
 #include "ai/deep_sacrifice.h"
 
 #include <algorithm>
-#include <bit>
 
 #include "ai/board_runs.h"
 #include "ai/giveaway_search.h"
 #include "ai/move_selection.h"
-#include "core/game_setup.h"
 #include "core/random.h"
+#include "display/safe_lines.h"
 #include "support/brute_force.h"
 #include "support/game_test.h"
 
@@ -90,6 +89,32 @@ TEST_F(DeepChoice, IsBestInManyPositionsOfLargerBoards) {
             ExpectBestChoice(oracle, columns, 3, drawn);
         }
     }
+}
+
+// The search takes steps, not time: a seed gives one choice, whatever the machine does meanwhile.
+TEST_F(DeepChoice, IsTheSameForASeedAndStopsAtOnceWhenTheGameIsGivenUp) {
+    SetUpGame(20, 15, ComputerIntelligent, ComputerCheat);
+    DrawSafeLines();
+    const GameState before = Game;
+    SeedRandom(7);
+    ChooseComputerMove();
+    const Integer choice = Game.ChosenLine;
+    const int yields = TheNullDesktop.Yields;
+    Game = before;
+    SeedRandom(7);
+    ChooseComputerMove();
+    EXPECT_EQ(Game.ChosenLine, choice);
+
+    Game = before;
+    TheNullDesktop.Yields = 0;
+    TheNullDesktop.WhenYielding = [] { Game.QuitRequested = TheNullDesktop.Yields > 10; };
+    ChooseComputerMove();
+    EXPECT_GT(yields, 20);
+    EXPECT_LT(TheNullDesktop.Yields, 13);
+    EXPECT_EQ(Game.Lines.at(Game.ChosenLine).Drawn, 0);
+    Game.ChosenLine = before.ChosenLine;
+    Game.QuitRequested = false;
+    EXPECT_EQ(Game, before);
 }
 
 } // namespace
