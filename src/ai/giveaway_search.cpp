@@ -10,11 +10,12 @@ namespace {
 
 constexpr int ToTheEnd = 1 << 20; // choices looked at
 
-// A step is a position set up, worth about a microsecond. Up to twenty runs the first budget has
-// always sufficed; so many more that it never does are not followed to the end at all.
-constexpr long StepsToTheEnd = 200'000;
+// A step is a position set up, worth about a microsecond. Up to twenty runs half the steps to the
+// end have sufficed for every pair of kinds. With more runs a search of some choices ahead wins as
+// many boxes in a third of the time, and rather more games.
+constexpr std::size_t MostRunsToTheEnd = 20;
+constexpr long StepsToTheEnd = 250'000;
 constexpr long StepsAhead = 100'000;
-constexpr std::size_t MostRunsToTheEnd = 60;
 constexpr long StepsBetweenYields = 4'000;
 
 std::uint64_t MemoryCode(std::uint64_t positionCode, int player, int ahead) {
@@ -54,15 +55,14 @@ std::vector<double> GiveawaySearch::Judge(const std::vector<Run>& runs,
         chosen.push_back(places.at(candidate));
 
     StepsToYield = StepsBetweenYields;
-    StepsLeft = StepsToTheEnd;
     if (runs.size() <= MostRunsToTheEnd) {
+        StepsLeft = StepsToTheEnd;
         try {
             return JudgeAhead(chosen, ToTheEnd);
         } catch (const Interruption&) {
-            StepsLeft = 0;
         }
     }
-    StepsLeft += StepsAhead;
+    StepsLeft = StepsAhead;
     return JudgeFurtherAndFurther(chosen);
 }
 
