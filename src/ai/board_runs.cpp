@@ -1,0 +1,74 @@
+#include "ai/board_runs.h"
+
+#include "core/game_state.h"
+
+namespace {
+
+bool IsDrawn(int line) {
+    return Game.Lines.at(line).Drawn != 0;
+}
+
+int BoxAcross(int line, int box) {
+    const Line& crossed = Game.Lines.at(line);
+    return crossed.FirstBox == box ? crossed.SecondBox : crossed.FirstBox;
+}
+
+int OpenSideBut(int box, int line) {
+    for (const Integer side : Game.Boxes.at(box).Sides)
+        if (side != line && !IsDrawn(side))
+            return side;
+    return 0;
+}
+
+class Reader {
+public:
+    Reader() : JointNumbers(Game.Boxes.size(), 0), IsRead(Game.Boxes.size(), false) {
+        Found.RunOfLine.assign(Game.Lines.size(), -1);
+        int joints = 0;
+        for (int box = 1; box <= Game.BoxCount; ++box)
+            if (Game.Boxes.at(box).SidesDrawn < 2)
+                JointNumbers.at(box) = ++joints;
+        for (int box = 1; box <= Game.BoxCount; ++box)
+            if (Game.Boxes.at(box).SidesDrawn == 2 && !IsRead.at(box))
+                ReadRunThrough(box);
+    }
+
+    BoardRuns Found;
+
+private:
+    void ReadRunThrough(int box) {
+        Run run;
+        run.Boxes = 1;
+        IsRead.at(box) = true;
+        const int firstLine = OpenSideBut(box, 0);
+        run.Ends[0] = Follow(box, firstLine, run.Boxes);
+        run.Ends[1] =
+            run.IsRing() ? Run::Closed : Follow(box, OpenSideBut(box, firstLine), run.Boxes);
+        Found.Runs.push_back(run);
+    }
+
+    // Goes from `box` over `line` to the end of the run; returns what lies there.
+    int Follow(int box, int line, int& boxes) {
+        const int start = box;
+        for (;;) {
+            Found.RunOfLine.at(line) = static_cast<int>(Found.Runs.size());
+            box = BoxAcross(line, box);
+            if (box == start)
+                return Run::Closed;
+            if (Game.Boxes.at(box).SidesDrawn != 2)
+                return JointNumbers.at(box); // 0 beyond the border
+            ++boxes;
+            IsRead.at(box) = true;
+            line = OpenSideBut(box, line);
+        }
+    }
+
+    std::vector<int> JointNumbers; // by box, 0 = none
+    std::vector<bool> IsRead;
+};
+
+} // namespace
+
+BoardRuns FindBoardRuns() {
+    return Reader().Found;
+}

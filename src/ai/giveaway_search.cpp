@@ -1,0 +1,274 @@
+#include "ai/giveaway_search.h"
+
+#include <algorithm>
+#include <limits>
+
+#include "core/game_state.h"
+#include "platform/desktop.h"
+
+namespace {
+
+constexpr int ToTheEnd = 1 << 20; // choices looked at
+
+// A step is a position set up, worth about a microsecond. Up to twenty runs half the steps to the
+// end have sufficed for every pair of kinds. With more runs a search of some choices ahead wins as
+// many boxes and games as one to the end, in a third of the time.
+constexpr std::size_t MostRunsToTheEnd = 20;
+constexpr long StepsToTheEnd = 250'000;
+constexpr long StepsAhead = 100'000;
+constexpr long StepsBetweenYields = 4'000;
+
+std::uint64_t MemoryCode(std::uint64_t positionCode, int player, int ahead) {
+    constexpr std::uint64_t playerFactor = 0x9E3779B97F4A7C15U;
+    constexpr std::uint64_t aheadFactor = 0xD1B54A32D192ED03U;
+    return positionCode ^ (playerFactor * (player + 1)) ^ (aheadFactor * ahead);
+}
+
+// What a decliner leaves of a run that was given to him.
+int BoxesDeclined(const Run& run) {
+    return run.IsRing() ? 4 : 2;
+}
+
+} // namespace
+
+void Position::Add(PieceNumber number, std::uint64_t pieceCode, int count) {
+    Code += pieceCode * static_cast<std::uint64_t>(count);
+    const auto share =
+        std::lower_bound(Shares.begin(), Shares.end(), number,
+                         [](const Share& s, PieceNumber wanted) { return s.Piece < wanted; });
+    if (share == Shares.end() || share->Piece != number)
+        Shares.insert(share, {number, count});
+    else if ((share->Count += count) == 0)
+        Shares.erase(share);
+}
+
+GiveawaySearch::GiveawaySearch(int mover, int opponent) : Kinds{mover, opponent} {}
+
+std::vector<double> GiveawaySearch::Judge(const std::vector<Run>& runs,
+                                          const std::vector<int>& candidates) {
+    std::vector<RunPlace> places;
+    Levels.resize(1);
+    for (const PieceNumber number : Catalogue.Enter(runs, &places))
+        Levels.at(0).Add(number, Catalogue.At(number).Code, 1);
+    std::vector<RunPlace> chosen;
+    for (const int candidate : candidates)
+        chosen.push_back(places.at(candidate));
+
+    StepsToYield = StepsBetweenYields;
+    if (runs.size() <= MostRunsToTheEnd) {
+        StepsLeft = StepsToTheEnd;
+        try {
+            return JudgeAhead(chosen, ToTheEnd);
+        } catch (const Interruption&) {
+        }
+    }
+    StepsLeft = StepsAhead;
+    return JudgeFurtherAndFurther(chosen);
+}
+
+// As many choices ahead as the steps allow.
+std::vector<double>
+GiveawaySearch::JudgeFurtherAndFurther(const std::vector<RunPlace>& candidates) {
+    // Something is known even if nothing is judged: the smaller, the better.
+    std::vector<double> margins;
+    for (const RunPlace& place : candidates)
+        margins.push_back(-Catalogue.At(place.Piece).Giveaways.at(place.Position).Boxes);
+    try {
+        for (int ahead = 0; !Game.ProgramEnding && !Game.QuitRequested; ++ahead)
+            margins = JudgeAhead(candidates, ahead);
+    } catch (const Interruption&) {
+    }
+    return margins;
+}
+
+std::vector<double> GiveawaySearch::JudgeAhead(const std::vector<RunPlace>& candidates, int ahead) {
+    std::vector<double> margins;
+    for (const RunPlace& place : candidates)
+        margins.push_back(ValueOfGiveaway({0, 0, ahead}, place));
+    return margins;
+}
+
+double GiveawaySearch::ValueOf(const Turn& turn) {
+    if (turn.Ahead == 0)
+        return ValueOfFirstSmallest(turn);
+    return KindOf(turn) == ComputerAverage ? MeanOfSmallest(turn) : BestOfAll(turn);
+}
+
+int GiveawaySearch::SmallestSize(const Turn& turn) {
+    int smallest = std::numeric_limits<int>::max();
+    for (const Position::Share& share : Levels.at(turn.Level).Shares)
+        smallest = std::min(smallest, Catalogue.At(share.Piece).Smallest);
+    return smallest;
+}
+
+double GiveawaySearch::ValueOfFirstSmallest(const Turn& turn) {
+    const int smallest = SmallestSize(turn);
+    for (const Position::Share& share : Levels.at(turn.Level).Shares) {
+        const Piece& piece = Catalogue.At(share.Piece);
+        for (int run = 0; run < piece.RunCount(); ++run)
+            if (piece.Giveaways.at(run).Boxes == smallest)
+                return ValueOfOpening(turn, {share.Piece, run}, true);
+    }
+    return 0;
+}
+
+double GiveawaySearch::MeanOfSmallest(const Turn& turn) {
+    const int smallest = SmallestSize(turn);
+    double sum = 0;
+    int count = 0;
+    for (const Position::Share& share : Levels.at(turn.Level).Shares) {
+        const Piece& piece = Catalogue.At(share.Piece);
+        for (int run = 0; run < piece.RunCount(); ++run) {
+            if (piece.Giveaways.at(run).Boxes != smallest)
+                continue;
+            sum += share.Count * ValueOfGiveaway(turn, {share.Piece, run});
+            count += share.Count;
+        }
+    }
+    return sum / count;
+}
+
+double GiveawaySearch::BestOfAll(const Turn& turn) {
+    double best = std::numeric_limits<double>::lowest();
+    for (const Position::Share& share : Levels.at(turn.Level).Shares) {
+        const Piece& piece = Catalogue.At(share.Piece);
+        if (IsDominated(turn, piece))
+            continue;
+        for (int run = 0; run < piece.RunCount(); ++run)
+            best = std::max(best, ValueOfGiveaway(turn, {share.Piece, run}));
+    }
+    return best;
+}
+
+// Of lone runs that are played in the same way only the smallest can be best, provided that the
+// opponent chooses for the best too: whatever is possible with one is possible with the other.
+bool GiveawaySearch::IsDominated(const Turn& turn, const Piece& piece) {
+    const bool isCertain = OpponentKindOf(turn) != ComputerAverage;
+    if (piece.RunCount() > 1 || (turn.Ahead == ToTheEnd && !isCertain))
+        return false;
+    for (const Position::Share& share : Levels.at(turn.Level).Shares) {
+        const Piece& other = Catalogue.At(share.Piece);
+        if (other.RunCount() == 1 && other.Smallest < piece.Smallest &&
+            ArePlayedAlike(other.Runs.at(0), piece.Runs.at(0)))
+            return true;
+    }
+    return false;
+}
+
+// Runs that are declined in the same way; where everything is taken, all are alike.
+bool GiveawaySearch::ArePlayedAlike(const Run& smaller, const Run& larger) const {
+    const bool someoneDeclines = std::count(Kinds.begin(), Kinds.end(), ComputerCheat) > 0;
+    return !someoneDeclines || (smaller.IsRing() == larger.IsRing() && smaller.Boxes > 2);
+}
+
+// The row of a run, with the line in it as its player draws it.
+double GiveawaySearch::ValueOfGiveaway(const Turn& turn, RunPlace place) {
+    const Piece& piece = Catalogue.At(place.Piece);
+    const Giveaway& given = piece.Giveaways.at(place.Position);
+    const int kind = KindOf(turn);
+    const bool isPair = given.Boxes == 2;
+    if (kind == Humanoid) {
+        const double whole = ValueOfOpening(turn, place, true);
+        return isPair ? std::max(whole, ValueOfOpening(turn, place, false)) : whole;
+    }
+    if (isPair && kind != ComputerAverage)
+        return ValueOfOpening(turn, place, true);
+    const double own = ValueOfAnyLine(turn, place);
+    if (given.Behind < 0)
+        return own;
+    const double behind = ValueOfAnyLine(turn, {place.Piece, given.Behind});
+    const int ownLines = piece.Runs.at(place.Position).LineCount();
+    const int linesBehind = piece.Runs.at(given.Behind).LineCount();
+    return (ownLines * own + linesBehind * behind) / (ownLines + linesBehind);
+}
+
+// The mean over the lines of the run. Two boxes are left whole by one line of three.
+double GiveawaySearch::ValueOfAnyLine(const Turn& turn, RunPlace place) {
+    const double whole = ValueOfOpening(turn, place, true);
+    if (Catalogue.At(place.Piece).Giveaways.at(place.Position).Boxes != 2 ||
+        OpponentKindOf(turn) == ComputerAverage || OpponentKindOf(turn) == ComputerIntelligent)
+        return whole;
+    return (whole + 2 * ValueOfOpening(turn, place, false)) / 3;
+}
+
+// `leavesPairWhole` tells, of two boxes, that the line between them was drawn, so that both must be
+// taken or neither.
+double GiveawaySearch::ValueOfOpening(const Turn& turn, RunPlace place, bool leavesPairWhole) {
+    const Piece& piece = Catalogue.At(place.Piece);
+    const Giveaway& given = piece.Giveaways.at(place.Position);
+    const int taker = 1 - turn.Player;
+    const int takerKind = Kinds.at(taker);
+    const bool canDecline = given.Boxes > 2 || (given.Boxes == 2 && !leavesPairWhole);
+    const bool mustDecline = canDecline && takerKind == ComputerCheat;
+    const bool mayDecline = canDecline && takerKind == Humanoid && KindOf(turn) == ComputerCheat;
+    if (mustDecline && given.Boxes > 2 && EndsTheGame(turn, place))
+        return -given.Boxes;
+
+    const auto valueOfTaking = [&] { return -given.Boxes - ValueAfter(turn, place, taker); };
+    const auto valueOfDeclining = [&] {
+        const int declined = BoxesDeclined(piece.Runs.at(place.Position));
+        return 2 * declined - given.Boxes + ValueAfter(turn, place, turn.Player);
+    };
+    if (mustDecline)
+        return valueOfDeclining();
+    if (mayDecline)
+        return std::min(valueOfTaking(), valueOfDeclining());
+    return valueOfTaking();
+}
+
+bool GiveawaySearch::EndsTheGame(const Turn& turn, RunPlace place) {
+    const auto& shares = Levels.at(turn.Level).Shares;
+    return shares.size() == 1 && shares.front().Count == 1 && Catalogue.RestAfter(place).empty();
+}
+
+// The margin for `nextPlayer`, who must give away when what was given in `turn` has been taken.
+double GiveawaySearch::ValueAfter(const Turn& turn, RunPlace place, int nextPlayer) {
+    if (EndsTheGame(turn, place))
+        return 0;
+    Turn next{turn.Level + 1, nextPlayer, turn.Ahead};
+    if (turn.Ahead > 0 && turn.Ahead < ToTheEnd && KindOf(turn) != ComputerAverage)
+        --next.Ahead;
+    const std::uint64_t code = CodeAfter(turn, place);
+    if (const double* known = Values.Find(MemoryCode(code, nextPlayer, ToTheEnd)))
+        return *known;
+    const std::uint64_t memoryCode = MemoryCode(code, nextPlayer, next.Ahead);
+    if (const double* known = Values.Find(memoryCode))
+        return *known;
+    SetUpAfter(turn, place);
+    const double value = ValueOf(next);
+    Values.Store(memoryCode, value);
+    return value;
+}
+
+std::uint64_t GiveawaySearch::CodeAfter(const Turn& turn, RunPlace place) {
+    std::uint64_t code = Levels.at(turn.Level).Code - Catalogue.At(place.Piece).Code;
+    for (const PieceNumber rest : Catalogue.RestAfter(place))
+        code += Catalogue.At(rest).Code;
+    return code;
+}
+
+// Leaves the position in the level behind that of `turn`.
+void GiveawaySearch::SetUpAfter(const Turn& turn, RunPlace place) {
+    if (static_cast<int>(Levels.size()) == turn.Level + 1)
+        Levels.emplace_back();
+    Position& after = Levels.at(turn.Level + 1);
+    after = Levels.at(turn.Level);
+    after.Add(place.Piece, Catalogue.At(place.Piece).Code, -1);
+    for (const PieceNumber rest : Catalogue.RestAfter(place))
+        after.Add(rest, Catalogue.At(rest).Code, 1);
+    CountSteps(1 + static_cast<long>(after.Shares.size()) / 8);
+}
+
+void GiveawaySearch::CountSteps(long steps) {
+    const long all = steps + Catalogue.TakeSteps() / 8;
+    StepsLeft -= all;
+    StepsToYield -= all;
+    if (StepsToYield < 0) {
+        StepsToYield = StepsBetweenYields;
+        YieldToEvents(0);
+        if (Game.ProgramEnding || Game.QuitRequested)
+            throw Interruption{};
+    }
+    if (StepsLeft < 0)
+        throw Interruption{};
+}

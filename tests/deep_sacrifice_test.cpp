@@ -1,0 +1,120 @@
+// What the stronger computers give away, against a player who plays everything out.
+#include "ai/deep_sacrifice.h"
+
+#include <algorithm>
+
+#include "ai/board_runs.h"
+#include "ai/giveaway_search.h"
+#include "ai/move_selection.h"
+#include "core/random.h"
+#include "display/safe_lines.h"
+#include "support/brute_force.h"
+#include "support/game_test.h"
+
+namespace {
+
+struct Pair {
+    Integer Mover, Opponent;
+};
+constexpr Pair AllPairs[] = {{2, 0}, {2, 1}, {2, 2}, {2, 3}, {3, 0}, {3, 1}, {3, 2}, {3, 3}};
+
+class DeepChoice : public GameTest {
+protected:
+    void SetUpBoard(int columns, int rows, LineSet drawn, Pair kinds) {
+        SetUpGame(columns, rows, kinds.Mover, kinds.Opponent);
+        for (int line = 1; line <= Game.LineCount; ++line)
+            if ((drawn >> (line - 1) & 1U) != 0)
+                DrawForNobody({line});
+    }
+
+    // The margin of every row is right, and the row chosen is one of the best.
+    void ExpectBestChoice(BruteForce& oracle, int columns, int rows, LineSet drawn) {
+        for (const Pair kinds : AllPairs) {
+            SetUpBoard(columns, rows, drawn, kinds);
+            const std::vector<OracleRow> expected = oracle.Rows(drawn, kinds.Mover, kinds.Opponent);
+            double best = -1000;
+            for (const OracleRow& row : expected)
+                best = std::max(best, row.Margin);
+            ExpectMargins(expected, kinds, drawn);
+
+            ChooseComputerMove();
+            const LineSet chosen = LineSet{1} << (Game.ChosenLine - 1);
+            EXPECT_TRUE(std::any_of(expected.begin(), expected.end(),
+                                    [&](const OracleRow& row) {
+                                        return row.Margin > best - 1e-6 &&
+                                               (row.Lines & chosen) != 0;
+                                    }))
+                << "line " << Game.ChosenLine << " of board " << drawn << " for kinds "
+                << kinds.Mover << " and " << kinds.Opponent;
+        }
+    }
+
+    void ExpectMargins(const std::vector<OracleRow>& expected, Pair kinds, LineSet drawn) {
+        const BoardRuns board = FindBoardRuns();
+        std::vector<int> all;
+        for (int run = 0; run < static_cast<int>(board.Runs.size()); ++run)
+            all.push_back(run);
+        std::vector<double> found =
+            GiveawaySearch(kinds.Mover, kinds.Opponent).Judge(board.Runs, all);
+        std::vector<double> wanted;
+        for (const OracleRow& row : expected)
+            wanted.push_back(row.Margin);
+        std::sort(found.begin(), found.end());
+        std::sort(wanted.begin(), wanted.end());
+        ASSERT_EQ(found.size(), wanted.size()) << "board " << drawn;
+        for (std::size_t row = 0; row < found.size(); ++row)
+            ASSERT_NEAR(found.at(row), wanted.at(row), 1e-6)
+                << "board " << drawn << " for kinds " << kinds.Mover << " and " << kinds.Opponent;
+    }
+};
+
+TEST_F(DeepChoice, IsBestInEveryPositionOfTheSmallestBoards) {
+    for (const int columns : {2, 3}) {
+        BruteForce oracle(columns, 2);
+        for (LineSet drawn = 0; drawn < LineSet{1} << oracle.LineCount(); ++drawn)
+            if (oracle.IsOpeningOver(drawn))
+                ExpectBestChoice(oracle, columns, 2, drawn);
+    }
+}
+
+TEST_F(DeepChoice, IsBestInManyPositionsOfLargerBoards) {
+    for (const int columns : {3, 4}) {
+        const int samples = columns == 3 ? 1000 : 300;
+        for (int sample = 0; sample < samples; ++sample) {
+            BruteForce oracle(columns, 3);
+            LineSet drawn = 0;
+            while (!oracle.IsOpeningOver(drawn))
+                if (const int line = RandomPick(oracle.LineCount()) - 1; oracle.IsSafe(drawn, line))
+                    drawn |= LineSet{1} << line;
+            ExpectBestChoice(oracle, columns, 3, drawn);
+        }
+    }
+}
+
+// The search takes steps, not time: a seed gives one choice, whatever the machine does meanwhile.
+TEST_F(DeepChoice, IsTheSameForASeedAndStopsAtOnceWhenTheGameIsGivenUp) {
+    SetUpGame(20, 15, ComputerIntelligent, ComputerCheat);
+    DrawSafeLines();
+    const GameState before = Game;
+    SeedRandom(7);
+    ChooseComputerMove();
+    const Integer choice = Game.ChosenLine;
+    const int yields = TheNullDesktop.Yields;
+    Game = before;
+    SeedRandom(7);
+    ChooseComputerMove();
+    EXPECT_EQ(Game.ChosenLine, choice);
+
+    Game = before;
+    TheNullDesktop.Yields = 0;
+    TheNullDesktop.WhenYielding = [] { Game.QuitRequested = TheNullDesktop.Yields > 10; };
+    ChooseComputerMove();
+    EXPECT_GT(yields, 20);
+    EXPECT_LT(TheNullDesktop.Yields, 13);
+    EXPECT_EQ(Game.Lines.at(Game.ChosenLine).Drawn, 0);
+    Game.ChosenLine = before.ChosenLine;
+    Game.QuitRequested = false;
+    EXPECT_EQ(Game, before);
+}
+
+} // namespace

@@ -1,0 +1,244 @@
+// A second opinion on what to give away: plays out everything on small boards, line by line, and
+// shares no code with the computer players.
+#pragma once
+
+#include <algorithm>
+#include <array>
+#include <bit>
+#include <cstdint>
+#include <map>
+#include <utility>
+#include <vector>
+
+using LineSet = std::uint32_t; // line n of the game is bit n - 1
+
+// A row to choose from: its lines, and the margin in boxes still to come when it is given.
+struct OracleRow {
+    LineSet Lines;
+    double Margin;
+};
+
+// In here lines and boxes count from 0, in the order of the game.
+class BruteForce {
+public:
+    BruteForce(int columns, int rows) {
+        const int horizontal = columns * (rows + 1);
+        BoxesOfLine.assign(horizontal + (columns + 1) * rows, {-1, -1});
+        for (int box = 0; box < columns * rows; ++box) {
+            const int left = horizontal + box % columns * rows + box / columns;
+            SidesOfBox.push_back({box, box + columns, left, left + rows});
+            BoxesOfLine.at(box)[1] = BoxesOfLine.at(box + columns)[0] = box;
+            BoxesOfLine.at(left)[1] = BoxesOfLine.at(left + rows)[0] = box;
+        }
+    }
+
+    int LineCount() const { return static_cast<int>(BoxesOfLine.size()); }
+
+    bool IsSafe(LineSet drawn, int line) const {
+        return std::none_of(BoxesOfLine.at(line).begin(), BoxesOfLine.at(line).end(),
+                            [&](int box) { return box >= 0 && Sides(drawn, box) >= 2; });
+    }
+
+    bool IsOpeningOver(LineSet drawn) const {
+        for (int box = 0; box < static_cast<int>(SidesOfBox.size()); ++box)
+            if (Sides(drawn, box) > 2)
+                return false;
+        for (int line = 0; line < LineCount(); ++line)
+            if ((drawn & Bit(line)) == 0 && IsSafe(drawn, line))
+                return false;
+        return true;
+    }
+
+    // Kind 1 has only the smallest rows.
+    std::vector<OracleRow> Rows(LineSet drawn, int kind, int otherKind) {
+        std::vector<OracleRow> rows;
+        std::map<LineSet, int> sizes; // a row is known by its lines
+        for (int line = 0; line < LineCount(); ++line) {
+            if ((drawn & Bit(line)) != 0)
+                continue;
+            int boxes = 0;
+            const LineSet taken = TakeAll(drawn | Bit(line), boxes);
+            sizes[taken | Bit(line)] = boxes;
+        }
+        int smallest = 1000;
+        for (const auto& [row, size] : sizes)
+            smallest = std::min(smallest, size);
+        for (const auto& [row, size] : sizes) {
+            if (kind == 1 && size != smallest)
+                continue;
+            double sum = 0;
+            int count = 0;
+            for (int line = 0; line < LineCount(); ++line) {
+                const auto [first, second] = BoxesOfLine.at(line);
+                const bool isBetween = first >= 0 && second >= 0 && Sides(drawn, first) == 2 &&
+                                       Sides(drawn, second) == 2;
+                if ((row & Bit(line)) == 0 || (kind > 1 && size == 2 && !isBetween))
+                    continue;
+                sum += ValueAfter(drawn, line, {kind, otherKind});
+                ++count;
+            }
+            rows.push_back({row, sum / count});
+        }
+        return rows;
+    }
+
+private:
+    using Kinds = std::pair<int, int>; // of the player to move, of the other
+
+    static LineSet Bit(int line) { return LineSet{1} << line; }
+
+    int Sides(LineSet drawn, int box) const {
+        int sides = 0;
+        for (const int side : SidesOfBox.at(box))
+            sides += (drawn & Bit(side)) != 0 ? 1 : 0;
+        return sides;
+    }
+
+    int OpenSide(LineSet drawn, int box) const {
+        for (const int side : SidesOfBox.at(box))
+            if ((drawn & Bit(side)) == 0)
+                return side;
+        return -1;
+    }
+
+    int BoxesTaken(LineSet drawn, int line) const {
+        return static_cast<int>(
+            std::count_if(BoxesOfLine.at(line).begin(), BoxesOfLine.at(line).end(),
+                          [&](int box) { return box >= 0 && Sides(drawn, box) == 3; }));
+    }
+
+    // Draws all that can be taken and returns those lines.
+    LineSet TakeAll(LineSet drawn, int& boxes) const {
+        const LineSet before = drawn;
+        for (int box = 0; box < static_cast<int>(SidesOfBox.size()); ++box)
+            if (Sides(drawn, box) == 3) {
+                const int line = OpenSide(drawn, box);
+                boxes += BoxesTaken(drawn, line);
+                drawn |= Bit(line);
+                box = -1;
+            }
+        return drawn & ~before;
+    }
+
+    // The lines that take box after box, starting with `box` beside `line`.
+    std::vector<int> Walk(LineSet& drawn, int box, int line) const {
+        std::vector<int> lines;
+        while (box >= 0 && Sides(drawn, box) == 3) {
+            line = OpenSide(drawn, box);
+            lines.push_back(line);
+            drawn |= Bit(line);
+            const auto [first, second] = BoxesOfLine.at(line);
+            box = first == box ? second : first;
+        }
+        return lines;
+    }
+
+    bool IsBeside(int line, int box) const {
+        return BoxesOfLine.at(line)[0] == box || BoxesOfLine.at(line)[1] == box;
+    }
+
+    // What the cheat draws when `last` opened the only boxes that can be taken.
+    std::vector<int> CheatLines(LineSet drawn, int last) const {
+        LineSet walked = drawn;
+        const auto [first, second] = BoxesOfLine.at(last);
+        std::vector<int> lines = Walk(walked, first, last);
+        const bool isLoop = second >= 0 && !lines.empty() && Sides(walked, second) == 4 &&
+                            IsBeside(lines.back(), second);
+        const std::vector<int> tail = Walk(walked, second, last);
+        const bool declines = lines.size() > 1 || tail.size() > 1;
+        // What takes boxes only behind the other walk cannot come before it.
+        LineSet alone = drawn;
+        if (lines.size() > tail.size() && Walk(alone, second, last) == tail)
+            lines.insert(lines.begin(), tail.begin(), tail.end());
+        else
+            lines.insert(lines.end(), tail.begin(), tail.end());
+        const std::size_t count = lines.size();
+        const bool endsGame = std::popcount(drawn) + static_cast<int>(count) == LineCount();
+        if (!declines || (endsGame && count != 2))
+            return lines;
+        if (isLoop)
+            lines.erase(lines.end() - 3, lines.end() - 2), lines.pop_back();
+        else
+            lines.erase(lines.end() - 2);
+        return lines;
+    }
+
+    // The margin still to come for the player to move.
+    double Value(LineSet drawn, int last, Kinds kinds) {
+        int boxes = 0;
+        const LineSet taken = TakeAll(drawn, boxes);
+        if (taken == 0)
+            return ValueOfGiving(drawn, kinds);
+        if (kinds.first == 3) {
+            double margin = 0;
+            for (const int line : CheatLines(drawn, last)) {
+                const int gained = BoxesTaken(drawn, line);
+                if (gained == 0)
+                    return margin + ValueAfter(drawn, line, kinds);
+                margin += gained;
+                drawn |= Bit(line);
+            }
+            return margin + Value(drawn, last, kinds);
+        }
+        const double all = boxes + ValueOfGiving(drawn | taken, kinds);
+        return kinds == Kinds{0, 3} ? std::max(all, PersonsBestTaking(drawn, last, kinds)) : all;
+    }
+
+    double ValueAfter(LineSet drawn, int line, Kinds kinds) {
+        return -Value(drawn | Bit(line), line, {kinds.second, kinds.first});
+    }
+
+    // Takes what can be taken, in any order, and at some point draws another line among those that
+    // were given, so that nothing but pairs of boxes is left to take.
+    double PersonsBestTaking(LineSet drawn, int last, Kinds kinds) {
+        int boxes = 0;
+        const LineSet given = TakeAll(drawn, boxes);
+        double best = -1000;
+        for (int line = 0; line < LineCount(); ++line) {
+            if ((given & Bit(line)) == 0)
+                continue;
+            if (const int gained = BoxesTaken(drawn, line); gained > 0) {
+                const LineSet next = drawn | Bit(line);
+                int left = 0;
+                best = std::max(best, gained + (TakeAll(next, left) != 0
+                                                    ? PersonsBestTaking(next, last, kinds)
+                                                    : ValueOfGiving(next, kinds)));
+                continue;
+            }
+            int left = 0;
+            const int lines = std::popcount(TakeAll(drawn | Bit(line), left));
+            if (left == 2 * lines)
+                best = std::max(best, ValueAfter(drawn, line, kinds));
+        }
+        return best;
+    }
+
+    double ValueOfGiving(LineSet drawn, Kinds kinds) {
+        if (std::popcount(drawn) == LineCount())
+            return 0;
+        const auto found = Known.find({drawn, kinds});
+        if (found != Known.end())
+            return found->second;
+        double value = -1000;
+        if (kinds.first == 0) {
+            for (int line = 0; line < LineCount(); ++line)
+                if ((drawn & Bit(line)) == 0)
+                    value = std::max(value, ValueAfter(drawn, line, kinds));
+        } else {
+            const std::vector<OracleRow> rows = Rows(drawn, kinds.first, kinds.second);
+            double sum = 0;
+            for (const OracleRow& row : rows) {
+                sum += row.Margin;
+                value = std::max(value, row.Margin);
+            }
+            if (kinds.first == 1)
+                value = sum / static_cast<double>(rows.size());
+        }
+        Known[{drawn, kinds}] = value;
+        return value;
+    }
+
+    std::vector<std::array<int, 4>> SidesOfBox;  // top, bottom, left, right
+    std::vector<std::array<int, 2>> BoxesOfLine; // above or left, below or right; -1 = none
+    std::map<std::pair<LineSet, Kinds>, double> Known;
+};
