@@ -19,7 +19,8 @@ bool IsSpecial(char32_t code) {
 }
 
 std::optional<char> ToWindows1252(char32_t character) {
-    const auto* const special = std::find(SpecialCharacters.begin(), SpecialCharacters.end(), character);
+    const auto* const special =
+        std::find(SpecialCharacters.begin(), SpecialCharacters.end(), character);
     if (special != SpecialCharacters.end())
         return static_cast<char>(FirstSpecial + (special - SpecialCharacters.begin()));
     if (character > 0xFF || IsSpecial(character))
