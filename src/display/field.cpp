@@ -46,6 +46,24 @@ void PlotPoints() {
             PlotPoint(x, y, Game.PointColor);
 }
 
+// A side of a box, and how much higher the opposite side's number is.
+struct SidePair {
+    Side Near, Far;
+    int Step;
+};
+
+// Enters a line that starts at (x, y) and is the near side of `box`, 0 = none.
+void EnterLine(int line, int x, int y, int box, const SidePair& sides) {
+    Game.Lines.at(line).X = ToInteger(x);
+    Game.Lines.at(line).Y = ToInteger(y);
+    if (box == 0)
+        return;
+    Game.Boxes.at(box).Sides.at(sides.Near) = ToInteger(line);
+    Game.Boxes.at(box).Sides.at(sides.Far) = ToInteger(line + sides.Step);
+    Game.Lines.at(line).SecondBox = ToInteger(box);
+    Game.Lines.at(line + sides.Step).FirstBox = ToInteger(box);
+}
+
 } // namespace
 
 void ResetPointSpacing() {
@@ -100,36 +118,15 @@ void BuildField() {
     const int rows = FieldRows();
     for (int column = 0; column <= columns; ++column) {
         for (int row = 0; row <= rows; ++row) {
-            const Integer x = ToInteger(Game.FieldLeft + column * Game.PointSpacingX);
-            const Integer y = ToInteger(Game.FieldTop + row * Game.PointSpacingY);
-            // The box below and to the right of this point has the number of its top line.
-            const Integer box = ToInteger(row * columns + column + 1);
-            const bool hasBox = column < columns && row < rows;
-            if (column < columns) {
-                const Integer horizontal = box;
-                Game.Lines.at(horizontal).X = x;
-                Game.Lines.at(horizontal).Y = y;
-                if (hasBox) {
-                    const Integer bottom = ToInteger(horizontal + columns);
-                    Game.Boxes.at(box).Sides.at(Top) = horizontal;
-                    Game.Boxes.at(box).Sides.at(Bottom) = bottom;
-                    Game.Lines.at(bottom).FirstBox = box;
-                    Game.Lines.at(horizontal).SecondBox = box;
-                }
-            }
-            if (row < rows) {
-                const Integer vertical =
-                    ToInteger(Game.HorizontalLineCount + column * rows + row + 1);
-                Game.Lines.at(vertical).X = x;
-                Game.Lines.at(vertical).Y = y;
-                if (hasBox) {
-                    const Integer right = ToInteger(vertical + rows);
-                    Game.Boxes.at(box).Sides.at(Left) = vertical;
-                    Game.Boxes.at(box).Sides.at(Right) = right;
-                    Game.Lines.at(right).FirstBox = box;
-                    Game.Lines.at(vertical).SecondBox = box;
-                }
-            }
+            const int x = Game.FieldLeft + column * Game.PointSpacingX;
+            const int y = Game.FieldTop + row * Game.PointSpacingY;
+            const int number = row * columns + column + 1; // of the top line and of its box
+            const int box = column < columns && row < rows ? number : 0;
+            if (column < columns)
+                EnterLine(number, x, y, box, {Top, Bottom, columns});
+            if (row < rows)
+                EnterLine(Game.HorizontalLineCount + column * rows + row + 1, x, y, box,
+                          {Left, Right, rows});
         }
     }
 }
