@@ -4,6 +4,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
+#include <QTextDocument>
 
 #include "platform/controls.h"
 #include "ui/swatch.h"
@@ -19,7 +20,9 @@ void ShowText(QLineEdit* box, const TextBox& control) {
     if (box->text() == text)
         return;
     box->setText(text);
-    box->setCursorPosition(0); // a long name shows from its start
+    box->setCursorPosition(0); // a long name shows from its start, the rest in a tool-tip
+    const bool isWhole = box->fontMetrics().horizontalAdvance(text) < box->width();
+    box->setToolTip(isWhole ? QString() : Qt::convertFromPlainText(text));
 }
 
 void ShowCaption(QLabel* label, const Label& control) {
