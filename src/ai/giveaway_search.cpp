@@ -146,13 +146,12 @@ bool GiveawaySearch::IsDominated(const Turn& turn, const Piece& piece) {
     const bool isCertain = OpponentKindOf(turn) != ComputerAverage;
     if (piece.RunCount() > 1 || (turn.Ahead == ToTheEnd && !isCertain))
         return false;
-    for (const Position::Share& share : Levels.at(turn.Level).Shares) {
+    const std::vector<Position::Share>& shares = Levels.at(turn.Level).Shares;
+    return std::any_of(shares.begin(), shares.end(), [&](const Position::Share& share) {
         const Piece& other = Catalogue.At(share.Piece);
-        if (other.RunCount() == 1 && other.Smallest < piece.Smallest &&
-            ArePlayedAlike(other.Runs.at(0), piece.Runs.at(0)))
-            return true;
-    }
-    return false;
+        return other.RunCount() == 1 && other.Smallest < piece.Smallest &&
+               ArePlayedAlike(other.Runs.at(0), piece.Runs.at(0));
+    });
 }
 
 // Runs that are declined in the same way; where everything is taken, all are alike.

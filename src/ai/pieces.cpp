@@ -108,25 +108,35 @@ std::uint64_t MixSignature(std::uint64_t signature) {
     return signature ^ (signature >> 31U);
 }
 
-// Numbers the joints by what they look like from near by, so that most pieces of one shape come out
-// alike however they lie on the board.
-void RenumberJoints(std::vector<Run>& runs) {
+// What a run adds to the signature of the joint at its end `side`.
+std::uint64_t SignatureOf(const Run& run, int side, const std::vector<std::uint64_t>& signatures) {
+    const int joint = run.Ends.at(side);
+    const int far = run.Ends.at(1 - side);
+    const std::uint64_t beyond = far > 0 ? signatures.at(far) : 0;
+    const std::uint64_t shape = std::uint64_t{2} * run.Boxes + (far == joint ? 1 : 0);
+    return MixSignature(beyond * 1024 + shape);
+}
+
+// For each joint what it looks like from near by; 0 for the joint number 0, which is none.
+std::vector<std::uint64_t> JointSignatures(const std::vector<Run>& runs, int joints) {
     constexpr int rounds = 3;
-    const int joints = JointCount(runs);
     std::vector<std::uint64_t> signatures(static_cast<std::size_t>(joints) + 1, 1);
     for (int round = 0; round < rounds; ++round) {
         std::vector<std::uint64_t> next(signatures.size(), 0);
         for (const Run& run : runs)
             for (const int side : {0, 1})
-                if (const int joint = run.Ends.at(side); joint > 0) {
-                    const int far = run.Ends.at(1 - side);
-                    const std::uint64_t beyond = far > 0 ? signatures.at(far) : 0;
-                    next.at(joint) +=
-                        MixSignature(beyond * 1024 + run.Boxes * 2 + (far == joint ? 1 : 0));
-                }
+                if (const int joint = run.Ends.at(side); joint > 0)
+                    next.at(joint) += SignatureOf(run, side, signatures);
         signatures = next;
-        signatures.at(0) = 0;
     }
+    return signatures;
+}
+
+// Numbers the joints by their signatures, so that most pieces of one shape come out alike however
+// they lie on the board.
+void RenumberJoints(std::vector<Run>& runs) {
+    const int joints = JointCount(runs);
+    const std::vector<std::uint64_t> signatures = JointSignatures(runs, joints);
     std::vector<int> order(static_cast<std::size_t>(joints));
     std::iota(order.begin(), order.end(), 1);
     std::stable_sort(order.begin(), order.end(),

@@ -22,7 +22,7 @@ struct Run {
     bool IsRing() const { return Ends[0] == Closed; }
     bool EndsAt(int joint) const { return Ends[0] == joint || Ends[1] == joint; }
     int LineCount() const { return IsRing() ? Boxes : Boxes + 1; }
-    auto operator<=>(const Run&) const = default;
+    auto operator<=>(const Run&) const = default; // NOLINT(modernize-use-nullptr): its own mistake
 };
 
 using PieceNumber = int; // from 0, in the order in which the pieces were met
