@@ -2,10 +2,13 @@
 // so that a machine without it starts as quickly.
 #include <SDL.h>
 #include <alsa/asoundlib.h>
+#include <filesystem>
 
 #include "platform/wave_player.h"
 
 namespace {
+
+constexpr std::uintmax_t LargestFile = 8 << 20; // a larger one would hold up the game
 
 std::string waveFile;
 SDL_AudioDeviceID device = 0; // 0 = closed
@@ -31,7 +34,9 @@ void Close() {
 
 void Open() {
     Close();
-    if (!SoundIsThere())
+    std::error_code unreadable;
+    const std::uintmax_t bytesOnDisk = std::filesystem::file_size(waveFile, unreadable);
+    if (unreadable || bytesOnDisk > LargestFile || !SoundIsThere())
         return;
     SDL_AudioSpec format;
     Uint8* samples = nullptr;
