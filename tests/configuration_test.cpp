@@ -19,8 +19,7 @@ protected:
         StartFresh();
     }
 
-    TemporaryDirectory Directory;
-    CurrentDirectory Current{Directory.Path};
+    TestDirectory Directory;
 };
 
 TEST_F(Configuration, IsWrittenByExitAloneAndOnlyAfterAChange) {
@@ -102,18 +101,6 @@ TEST_F(Configuration, CutShortAnywhereOrChangedInAnyByteIsTakenWholeOrNotAtAll) 
         return Game == before || Game.PlayerKind.at(2) != before.PlayerKind.at(2);
     };
     EXPECT_EQ(FirstHarmfulDamage(BytesOf(Samples + "changed.cfg"), isHarmless), "");
-}
-
-TEST_F(Configuration, FindsTheSoundsThatAreThere) {
-    for (const char* const name :
-         {"SndC3.wav", "SndC0.wav", "SndC11.wav", "SndH7.wav", "SndH2.wav"})
-        PutBytes(name, "");
-    std::filesystem::create_directory("SndT1.wav");
-    std::filesystem::create_symlink("missing", "SndT2.wav");
-    SetUp();
-    EXPECT_EQ(Game.ComputerWinSounds, (SoundList{{"SndC3.wav"}, 1}));
-    EXPECT_EQ(Game.HumanWinSounds.Names, (std::vector<std::string>{"SndH2.wav", "SndH7.wav"}));
-    EXPECT_EQ(Game.DrawSounds, SoundList{});
 }
 
 } // namespace

@@ -1,8 +1,8 @@
 // What one drawn line changes, and which lines a person may draw.
 #include "core/moves.h"
 
+#include "support/files.h"
 #include "support/game_test.h"
-#include "support/sound_files.h"
 
 namespace {
 
@@ -97,7 +97,8 @@ TEST_F(Moves, ThatCloseTwoBoxesScoreTwoAndKeepTheTurn) {
 }
 
 TEST_F(Moves, ThatPassTheTurnClickAndShineOnlyFromComputerToPerson) {
-    const SoundFiles files({"SndClick.wav"});
+    const TestDirectory directory;
+    PutBytes("SndClick.wav", "");
     for (const Integer mover : {Humanoid, ComputerAverage, ComputerCheat}) {
         for (const Integer opponent : {Humanoid, ComputerIntelligent}) {
             StartFresh();

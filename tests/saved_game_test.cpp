@@ -53,8 +53,7 @@ protected:
         return false;
     }
 
-    TemporaryDirectory Directory;
-    CurrentDirectory Current{Directory.Path};
+    TestDirectory Directory;
     std::string File = Directory.Path + "/game.qbs";
 };
 

@@ -10,8 +10,7 @@
 #include "ui/commands.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    const TemporaryDirectory directory;
-    const CurrentDirectory current(directory.Path);
+    const TestDirectory directory;
     const std::string file = "QUIBLNK.CFG";
     BeginAnew();
     const GameState builtIn = Game;

@@ -29,7 +29,7 @@ void Require(bool condition) {
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    const TemporaryDirectory directory;
+    const TestDirectory directory;
     const std::string given = directory.Path + "/given.qbs";
     const std::string saved = directory.Path + "/saved.qbs";
     BeginAnew();

@@ -1,47 +1,41 @@
-// Files of tests: their bytes, and a directory of their own to be the current one.
+// Files of tests: their bytes, and a directory for them.
 #pragma once
 
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
-#include <sstream>
 #include <stdexcept>
 #include <string>
 
 inline std::string BytesOf(const std::filesystem::path& path) {
     std::ifstream file(path, std::ios::binary);
-    std::ostringstream bytes;
-    bytes << file.rdbuf();
-    return bytes.str();
+    return {std::istreambuf_iterator<char>(file), {}};
 }
 
 inline void PutBytes(const std::filesystem::path& path, const std::string& bytes) {
     std::ofstream(path, std::ios::binary) << bytes;
 }
 
-// In memory where there is such a place: some tests write a hundred thousand files.
-class TemporaryDirectory {
+// An empty directory that is the current one while this lives. In memory where there is such a
+// place: some tests write a hundred thousand files.
+class TestDirectory {
 public:
-    TemporaryDirectory() {
+    TestDirectory() {
         const bool hasMemory = std::filesystem::is_directory("/dev/shm");
         Path = hasMemory ? "/dev/shm" : std::filesystem::temp_directory_path();
         Path += "/quiblink-XXXXXX";
         if (mkdtemp(Path.data()) == nullptr)
             throw std::runtime_error("no temporary directory");
+        std::filesystem::current_path(Path);
     }
-    ~TemporaryDirectory() { std::filesystem::remove_all(Path); }
-    TemporaryDirectory(const TemporaryDirectory&) = delete;
-    TemporaryDirectory& operator=(const TemporaryDirectory&) = delete;
+    ~TestDirectory() {
+        std::filesystem::current_path(Before);
+        std::filesystem::remove_all(Path);
+    }
+    TestDirectory(const TestDirectory&) = delete;
+    TestDirectory& operator=(const TestDirectory&) = delete;
 
     std::string Path;
-};
-
-class CurrentDirectory {
-public:
-    explicit CurrentDirectory(const std::string& path) { std::filesystem::current_path(path); }
-    ~CurrentDirectory() { std::filesystem::current_path(Before); }
-    CurrentDirectory(const CurrentDirectory&) = delete;
-    CurrentDirectory& operator=(const CurrentDirectory&) = delete;
 
 private:
     std::filesystem::path Before = std::filesystem::current_path();

@@ -9,7 +9,6 @@
 #include <unistd.h>
 
 #include <chrono>
-#include <fstream>
 #include <sstream>
 #include <stdexcept>
 #include <thread>
@@ -69,11 +68,7 @@ std::optional<Window> WindowOf(Display* screen, const std::string& title) {
 Robot::Robot() {
     // Windows come and go between two questions about them.
     XSetErrorHandler([](Display*, XErrorEvent*) { return 0; });
-    std::string pattern = (std::filesystem::temp_directory_path() / "quiblink-XXXXXX").string();
-    if (mkdtemp(pattern.data()) == nullptr)
-        throw std::runtime_error("no temporary directory");
-    ProgramDirectory = pattern;
-    setenv("XDG_RUNTIME_DIR", pattern.c_str(), 1);
+    setenv("XDG_RUNTIME_DIR", ProgramDirectory.Path.c_str(), 1);
 
     int numberPipe[2];
     if (pipe(numberPipe) != 0)
@@ -118,7 +113,6 @@ Robot::~Robot() {
     if (Screen != nullptr)
         XCloseDisplay(Of(Screen));
     End(ScreenServer);
-    std::filesystem::remove_all(ProgramDirectory);
 }
 
 pid_t Robot::Start(std::initializer_list<const char*> words) {
@@ -129,8 +123,6 @@ pid_t Robot::Start(std::initializer_list<const char*> words) {
     for (const char* word : words)
         arguments.push_back(const_cast<char*>(word));
     arguments.push_back(nullptr);
-    if (chdir(ProgramDirectory.c_str()) != 0)
-        _exit(126);
     const std::string program = std::filesystem::path(arguments[0]).filename();
     const int errors = open((program + ".stderr").c_str(), O_CREAT | O_WRONLY | O_TRUNC, 0600);
     dup2(errors, STDERR_FILENO);
@@ -242,6 +234,5 @@ int Robot::WaitForExit() {
 }
 
 std::string Robot::StandardError() const {
-    std::ifstream file(ProgramDirectory / "quiblink.stderr");
-    return {std::istreambuf_iterator<char>(file), {}};
+    return BytesOf(ProgramDirectory.Path + "/quiblink.stderr");
 }

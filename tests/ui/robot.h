@@ -4,10 +4,11 @@
 
 #include <sys/types.h>
 
-#include <filesystem>
 #include <functional>
 #include <optional>
 #include <string>
+
+#include "support/files.h"
 
 struct ScreenPoint {
     int X, Y;
@@ -49,12 +50,11 @@ public:
     // The exit status, or -1 when the program did not end within a second.
     int WaitForExit();
     std::string StandardError() const;
-    std::filesystem::path Directory() const { return ProgramDirectory; }
 
 private:
     pid_t Start(std::initializer_list<const char*> words);
 
     void* Screen = nullptr;
     pid_t ScreenServer = -1, WindowManager = -1, Program = -1;
-    std::filesystem::path ProgramDirectory;
+    TestDirectory ProgramDirectory;
 };

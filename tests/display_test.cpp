@@ -1,0 +1,76 @@
+// What the player reads in the status panel and hears.
+#include "display/sound.h"
+#include "display/status_panel.h"
+#include "support/files.h"
+#include "support/game_test.h"
+#include "ui/commands.h"
+
+namespace {
+
+class DisplayTest : public GameTest {};
+
+TEST_F(DisplayTest, ShowsNumbersRightAlignedInFiveCharacters) {
+    const struct {
+        Integer Score, Kind;
+        const char* Text;
+    } cases[] = {
+        {0, Humanoid, "<b>Bo</b>:     0     Humanoid"},
+        {123, ComputerIntelligent, "<b>Bo</b>:   123     Intelligent"},
+        {32767, ComputerCheat, "<b>Bo</b>: 32767     Cheat"},
+        {-5, 4, "<b>Bo</b>:    -5     Humanoid"},
+    };
+    Game.PlayerName.at(2) = "<b>Bo</b>";
+    Game.PlayerColor.at(2) = LightGreen;
+    for (const auto& c : cases) {
+        Game.PlayerScore.at(2) = c.Score;
+        Game.PlayerKind.at(2) = c.Kind;
+        ShowPlayerStatus(2);
+        EXPECT_EQ(frmQuibsMain.txtPlayer2Status.Text, c.Text);
+    }
+    EXPECT_EQ(frmQuibsMain.txtPlayer1Status.Text, "Colossus:     0     Intelligent");
+    EXPECT_EQ(frmQuibsMain.shpPlayer2Status.FillColor, LightGreen);
+    SetUpGame(10, 10, Humanoid, ComputerAverage);
+    EXPECT_EQ(frmQuibsMain.txtPlayer2Status.Text, "<b>Bo</b>:     0     Average");
+    EXPECT_EQ(frmQuibsMain.txtBoxesStatus.Text, "Boxes:     0 of   100");
+    EXPECT_EQ(frmQuibsMain.txtLinesStatus.Text, "Lines:     0 of   220");
+}
+
+TEST_F(DisplayTest, ShowsWhoseTurnItIsOnOneSideOnly) {
+    Game.PlayerColor.at(1) = LightRed;
+    for (const int player : {2, 1}) {
+        ShowTurn(player);
+        const bool isFirst = player == 1;
+        EXPECT_EQ(frmQuibsMain.lblPlayer1Active.Caption, isFirst ? "Colossus's Turn" : "");
+        EXPECT_EQ(frmQuibsMain.lblPlayer2Active.Caption, isFirst ? "" : "Guardian's Turn");
+        EXPECT_EQ(frmQuibsMain.shpPlayer1Active.Visible, isFirst);
+        EXPECT_EQ(frmQuibsMain.shpPlayer2Active, (Shape{BrightWhite, !isFirst}));
+    }
+    EXPECT_EQ(frmQuibsMain.shpPlayer1Active.FillColor, LightRed);
+}
+
+TEST_F(DisplayTest, PlaysTheSoundsThatAreThereInTurnWhileTheyAreWanted) {
+    const TestDirectory directory;
+    for (const char* name : {"SndC1.wav", "SndC3.wav", "SndC0.wav", "SndC11.wav", "SndT10.wav"})
+        PutBytes(name, "");
+    std::filesystem::create_directory("SndT1.wav");
+    std::filesystem::create_symlink("missing", "SndT2.wav");
+    FindOutcomeSounds();
+    EXPECT_EQ(Game.ComputerWinSounds.Names, (std::vector<std::string>{"SndC1.wav", "SndC3.wav"}));
+    Game.ComputerWinSounds.Next = 0;
+    for (const char* name : {"SndC1.wav", "SndC3.wav", "SndC1.wav"})
+        EXPECT_EQ(NextSound(Game.ComputerWinSounds), name);
+    EXPECT_EQ(Game.DrawSounds, (SoundList{{"SndT10.wav"}, 1}));
+    EXPECT_EQ(NextSound(Game.HumanWinSounds), "");
+    for (const char* silent : {"", "SndH1.wav", "."})
+        PlaySound(silent);
+    RunCommand(Command::Sound);
+    PlaySound("SndC1.wav");
+    EXPECT_TRUE(TheNullDesktop.Sounds.empty() && Game.SettingsChanged);
+    RunCommand(Command::Sound);
+    EXPECT_TRUE(StateOf(Command::Sound).Checked);
+    PlaySound("SndC1.wav");
+    EXPECT_EQ(TheNullDesktop.Sounds,
+              (std::vector<std::string>{"Open SndC1.wav", "Play SndC1.wav"}));
+}
+
+} // namespace
