@@ -7,5 +7,5 @@
 // it is running. When an exception leaves it, the game has been abandoned.
 void PlayGame();
 
-// Takes back a pause or an abandoned game's traces: no game, empty field, idle commands.
+// Gives the game up: no scores, no counters, an empty field, and the commands of an idle window.
 void AbandonGame();
