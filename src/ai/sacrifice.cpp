@@ -79,6 +79,15 @@ void SortAndDropNoCandidates() {
     Work.RiskyLines.Shorten(ToInteger(static_cast<int>(behind - Work.RiskyLines.begin())));
 }
 
+// Chooses at random among the smallest giveaways.
+void ChooseSmallestGiveaway() {
+    const Integer smallest = Work.RiskyLines.at(1).Size;
+    const auto larger = std::find_if(Work.RiskyLines.begin(), Work.RiskyLines.end(),
+                                     [=](const RiskyLine& r) { return r.Size > smallest; });
+    const int ties = static_cast<int>(larger - Work.RiskyLines.begin());
+    GiveAwayLine(Work.RiskyLines.at(RandomPick(ties)).Line);
+}
+
 } // namespace
 
 void ChooseSacrifice() {
@@ -91,14 +100,6 @@ void ChooseSacrifice() {
         ChooseSacrificeDeep();
     else
         ChooseSmallestGiveaway();
-}
-
-void ChooseSmallestGiveaway() {
-    const Integer smallest = Work.RiskyLines.at(1).Size;
-    const auto larger = std::find_if(Work.RiskyLines.begin(), Work.RiskyLines.end(),
-                                     [=](const RiskyLine& r) { return r.Size > smallest; });
-    const int ties = static_cast<int>(larger - Work.RiskyLines.begin());
-    GiveAwayLine(Work.RiskyLines.at(RandomPick(ties)).Line);
 }
 
 void GiveAwayLine(int line) {

@@ -9,6 +9,3 @@ void ChooseSacrifice();
 // random, but where exactly two boxes are given away the stronger computers draw the line between
 // them, so that the opponent must take both or neither. Draws nothing.
 void GiveAwayLine(int line);
-
-// Chooses at random among the smallest of the giveaways in `RiskyLines`.
-void ChooseSmallestGiveaway();
