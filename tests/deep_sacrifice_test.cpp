@@ -2,6 +2,7 @@
 #include "ai/deep_sacrifice.h"
 
 #include <algorithm>
+#include <numeric>
 
 #include "ai/board_runs.h"
 #include "ai/giveaway_search.h"
@@ -20,51 +21,39 @@ constexpr Pair AllPairs[] = {{2, 0}, {2, 1}, {2, 2}, {2, 3}, {3, 0}, {3, 1}, {3,
 
 class DeepChoice : public GameTest {
 protected:
-    void SetUpBoard(int columns, int rows, LineSet drawn, Pair kinds) {
-        SetUpGame(columns, rows, kinds.Mover, kinds.Opponent);
-        for (int line = 1; line <= Game.LineCount; ++line)
-            if ((drawn >> (line - 1) & 1U) != 0)
-                DrawForNobody({line});
-    }
-
     // The margin of every row is right, and the row chosen is one of the best.
-    void ExpectBestChoice(BruteForce& oracle, int columns, int rows, LineSet drawn) {
+    static void ExpectBestChoice(BruteForce& oracle, int columns, int rows, LineSet drawn) {
         for (const Pair kinds : AllPairs) {
-            SetUpBoard(columns, rows, drawn, kinds);
-            const std::vector<OracleRow> expected = oracle.Rows(drawn, kinds.Mover, kinds.Opponent);
-            double best = -1000;
-            for (const OracleRow& row : expected)
-                best = std::max(best, row.Margin);
-            ExpectMargins(expected, kinds, drawn);
+            const auto story = ::testing::Message() << "board " << drawn << " for kinds "
+                                                    << kinds.Mover << " and " << kinds.Opponent;
+            SetUpGame(columns, rows, kinds.Mover, kinds.Opponent);
+            for (int line = 1; line <= Game.LineCount; ++line)
+                if ((drawn >> (line - 1) & 1U) != 0)
+                    DrawForNobody({line});
+            std::vector<OracleRow> expected = oracle.Rows(drawn, kinds.Mover, kinds.Opponent);
+            std::sort(expected.begin(), expected.end(),
+                      [](const OracleRow& a, const OracleRow& b) { return a.Margin < b.Margin; });
+            const std::vector<double> margins = SortedMargins(kinds);
+            ASSERT_EQ(margins.size(), expected.size()) << story;
+            for (std::size_t row = 0; row < margins.size(); ++row)
+                ASSERT_NEAR(margins.at(row), expected.at(row).Margin, 1e-6) << story;
 
             ChooseComputerMove();
             const LineSet chosen = LineSet{1} << (Game.ChosenLine - 1);
-            EXPECT_TRUE(std::any_of(expected.begin(), expected.end(),
-                                    [&](const OracleRow& row) {
-                                        return row.Margin > best - 1e-6 &&
-                                               (row.Lines & chosen) != 0;
-                                    }))
-                << "line " << Game.ChosenLine << " of board " << drawn << " for kinds "
-                << kinds.Mover << " and " << kinds.Opponent;
+            EXPECT_TRUE(std::any_of(expected.begin(), expected.end(), [&](const OracleRow& row) {
+                return row.Margin > margins.back() - 1e-6 && (row.Lines & chosen) != 0;
+            })) << story;
         }
     }
 
-    void ExpectMargins(const std::vector<OracleRow>& expected, Pair kinds, LineSet drawn) {
+    static std::vector<double> SortedMargins(Pair kinds) {
         const BoardRuns board = FindBoardRuns();
-        std::vector<int> all;
-        for (int run = 0; run < static_cast<int>(board.Runs.size()); ++run)
-            all.push_back(run);
-        std::vector<double> found =
+        std::vector<int> all(board.Runs.size());
+        std::iota(all.begin(), all.end(), 0);
+        std::vector<double> margins =
             GiveawaySearch(kinds.Mover, kinds.Opponent).Judge(board.Runs, all);
-        std::vector<double> wanted;
-        for (const OracleRow& row : expected)
-            wanted.push_back(row.Margin);
-        std::sort(found.begin(), found.end());
-        std::sort(wanted.begin(), wanted.end());
-        ASSERT_EQ(found.size(), wanted.size()) << "board " << drawn;
-        for (std::size_t row = 0; row < found.size(); ++row)
-            ASSERT_NEAR(found.at(row), wanted.at(row), 1e-6)
-                << "board " << drawn << " for kinds " << kinds.Mover << " and " << kinds.Opponent;
+        std::sort(margins.begin(), margins.end());
+        return margins;
     }
 };
 

@@ -8,41 +8,31 @@
 
 namespace {
 
-class Fnv1a {
-public:
-    void Add(const std::string& text) {
-        for (const char c : text + '\n')
-            Hash = (Hash ^ static_cast<unsigned char>(c)) * 0x100000001B3U;
-    }
-    std::uint64_t Value() const { return Hash; }
-
-private:
-    std::uint64_t Hash = 0xCBF29CE484222325U;
-};
-
+// A 64-bit FNV-1a hash of what was drawn since the last call and of the texts as they stand.
 class Recorder {
 public:
-    // Adds what was drawn since the last call and the texts as they stand.
     void Record() {
         for (; Recorded < TheNullDesktop.Drawings.size(); ++Recorded) {
             const Drawing& d = TheNullDesktop.Drawings.at(Recorded);
             for (const int number : {static_cast<int>(d.What), d.FromX, d.FromY, d.ToX, d.ToY,
                                      static_cast<int>(d.DrawnColor)})
-                Signature.Add(std::to_string(number));
+                Add(std::to_string(number));
         }
         for (const auto* box : {&frmQuibsMain.txtPlayer1Status, &frmQuibsMain.txtPlayer2Status,
                                 &frmQuibsMain.txtBoxesStatus, &frmQuibsMain.txtLinesStatus})
-            Signature.Add(box->Text);
-        Signature.Add(frmQuibsMain.lblPlayer1Active.Caption);
-        Signature.Add(frmQuibsMain.lblPlayer2Active.Caption);
+            Add(box->Text);
+        Add(frmQuibsMain.lblPlayer1Active.Caption);
+        Add(frmQuibsMain.lblPlayer2Active.Caption);
     }
 
-    void BeginGame() { Recorded = 0; }
-    std::uint64_t Value() const { return Signature.Value(); }
+    std::uint64_t Hash = 0xCBF29CE484222325U;
+    std::size_t Recorded = 0;
 
 private:
-    Fnv1a Signature;
-    std::size_t Recorded = 0;
+    void Add(const std::string& text) {
+        for (const char c : text + '\n')
+            Hash = (Hash ^ static_cast<unsigned char>(c)) * 0x100000001B3U;
+    }
 };
 
 class GameSignature : public GameTest {};
@@ -57,7 +47,7 @@ TEST_F(GameSignature, IsTheOneOnRecord) {
                     Game.GridColumns = ToInteger(columns);
                     Game.GridRows = ToInteger(rows);
                     Game.PlayerKind = {{firstKind, secondKind}};
-                    recorder.BeginGame();
+                    recorder.Recorded = 0;
                     TheNullDesktop.WhenYielding = [&recorder] { recorder.Record(); };
                     RunCommand(command);
                     recorder.Record();
@@ -67,8 +57,8 @@ TEST_F(GameSignature, IsTheOneOnRecord) {
     }
     std::uint64_t onRecord = 0;
     std::ifstream(QUIBLINK_TESTS "/game_signature.txt") >> onRecord;
-    EXPECT_EQ(recorder.Value(), onRecord)
-        << "The games are no longer the same. If that is meant, put " << recorder.Value()
+    EXPECT_EQ(recorder.Hash, onRecord)
+        << "The games are no longer the same. If that is meant, put " << recorder.Hash
         << " into tests/game_signature.txt and say so in the commit.";
 }
 

@@ -25,7 +25,7 @@ protected:
     }
 };
 
-TEST_F(MoveSelection, BeginsWithAnyLineAlike) {
+TEST_F(MoveSelection, TakesAnySafeLineAlikeAndNeverARiskyOneBeside) {
     for (const Integer kind : AllKinds) {
         SetUpGame(3, 2, kind, Humanoid);
         const auto counts = Count(1700);
@@ -34,9 +34,6 @@ TEST_F(MoveSelection, BeginsWithAnyLineAlike) {
             EXPECT_NEAR(count, 100, 40) << "line " << line;
         EXPECT_EQ(TheNullDesktop.Yields, 0);
     }
-}
-
-TEST_F(MoveSelection, NeverTakesARiskyLineWhileASafeOneIsLeft) {
     // A border line is risky beside two sides and safe beside one.
     SetUpGame(2, 1, ComputerAverage, Humanoid);
     DrawForNobody({1, 3, 2});

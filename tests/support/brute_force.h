@@ -26,7 +26,7 @@ public:
         BoxesOfLine.assign(horizontal + (columns + 1) * rows, {-1, -1});
         for (int box = 0; box < columns * rows; ++box) {
             const int left = horizontal + box % columns * rows + box / columns;
-            SidesOfBox.push_back({box, box + columns, left, left + rows});
+            SidesOfBox.push_back(Bit(box) | Bit(box + columns) | Bit(left) | Bit(left + rows));
             BoxesOfLine.at(box)[1] = BoxesOfLine.at(box + columns)[0] = box;
             BoxesOfLine.at(left)[1] = BoxesOfLine.at(left + rows)[0] = box;
         }
@@ -40,13 +40,11 @@ public:
     }
 
     bool IsOpeningOver(LineSet drawn) const {
-        for (int box = 0; box < static_cast<int>(SidesOfBox.size()); ++box)
-            if (Sides(drawn, box) > 2)
-                return false;
+        int boxes = 0;
         for (int line = 0; line < LineCount(); ++line)
             if ((drawn & Bit(line)) == 0 && IsSafe(drawn, line))
                 return false;
-        return true;
+        return TakeAll(drawn, boxes) == 0 && std::popcount(drawn) < LineCount();
     }
 
     // Kind 1 has only the smallest rows.
@@ -87,18 +85,11 @@ private:
 
     static LineSet Bit(int line) { return LineSet{1} << line; }
 
-    int Sides(LineSet drawn, int box) const {
-        int sides = 0;
-        for (const int side : SidesOfBox.at(box))
-            sides += (drawn & Bit(side)) != 0 ? 1 : 0;
-        return sides;
-    }
+    int Sides(LineSet drawn, int box) const { return std::popcount(drawn & SidesOfBox.at(box)); }
 
+    // Of a box with one.
     int OpenSide(LineSet drawn, int box) const {
-        for (const int side : SidesOfBox.at(box))
-            if ((drawn & Bit(side)) == 0)
-                return side;
-        return -1;
+        return std::countr_zero(SidesOfBox.at(box) & ~drawn);
     }
 
     int BoxesTaken(LineSet drawn, int line) const {
@@ -133,17 +124,13 @@ private:
         return lines;
     }
 
-    bool IsBeside(int line, int box) const {
-        return BoxesOfLine.at(line)[0] == box || BoxesOfLine.at(line)[1] == box;
-    }
-
     // What the cheat draws when `last` opened the only boxes that can be taken.
     std::vector<int> CheatLines(LineSet drawn, int last) const {
         LineSet walked = drawn;
         const auto [first, second] = BoxesOfLine.at(last);
         std::vector<int> lines = Walk(walked, first, last);
         const bool isLoop = second >= 0 && !lines.empty() && Sides(walked, second) == 4 &&
-                            IsBeside(lines.back(), second);
+                            (SidesOfBox.at(second) & Bit(lines.back())) != 0;
         const std::vector<int> tail = Walk(walked, second, last);
         const bool declines = lines.size() > 1 || tail.size() > 1;
         // What takes boxes only behind the other walk cannot come before it.
@@ -238,7 +225,7 @@ private:
         return value;
     }
 
-    std::vector<std::array<int, 4>> SidesOfBox;  // top, bottom, left, right
+    std::vector<LineSet> SidesOfBox;
     std::vector<std::array<int, 2>> BoxesOfLine; // above or left, below or right; -1 = none
     std::map<std::pair<LineSet, Kinds>, double> Known;
 };
