@@ -46,6 +46,7 @@ TEST_F(ChainTracing, FindsTheChainsAndLoopsWorkedOutByHand) {
         {"the missing side from beyond", 3, 1, {1, 2, 3, 4, 5, 6, 10}, 9, {{3, 2, 1}, {}, {8, 7}}},
         {"the last side of two boxes", 3, 1, {1, 2, 4, 5, 7, 9}, 8, {{1, 2}, {}, {}}},
         {"round a ring", 2, 2, ring, 3, {{1, 2, 3, 4}, {9, 4, 10}, {}, true}},
+        {"round to a joint", 2, 2, {1, 2, 6, 7, 11, 12}, 3, {{1, 2, 4}, {9, 4, 10}, {}}},
         {"one box", 1, 1, {1, 2}, 3, {{1}, {}, {4}}},
     };
     for (const auto& c : cases) {

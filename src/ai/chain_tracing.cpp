@@ -72,9 +72,7 @@ void CompleteBoxesBeside(int line) {
 // The box that a walk goes on to from `box` over `line`, 0 = none.
 int NextBox(int box, int line) {
     const auto [first, second] = BoxesBeside(line);
-    if (first != box && first != 0)
-        return first;
-    return second != box ? second : 0;
+    return first != box ? first : second;
 }
 
 // Takes box after box, each of which has three sides when it is reached. A first box that `line`
@@ -128,9 +126,8 @@ bool EveryLineTakesABox(const CountedList<Integer>& lines) {
             playOut.AddSide(box);
             takes = takes || (box != 0 && playOut.SidesDrawn(box) == 4);
         }
-        if (!takes || playOut.IsDrawn(line))
+        if (!takes)
             return false;
-        playOut.Mark(line);
     }
     return true;
 }

@@ -36,21 +36,11 @@ void TakeChainsNotOpenedBy(int lastLine) {
     }
 }
 
-// Draws the first `count` of `ChainLines`. A walk that was put in another order than it was found
-// may meet a junction: then it stops before the line that takes nothing and returns false.
-bool CaptureFirst(int count) {
-    for (int position = 1; position <= count; ++position) {
-        const Integer line = Work.ChainLines.at(position);
-        if (!TakesABox(line))
-            return false;
-        Capture(line);
-    }
-    return true;
-}
-
 // Draws the first `count` of `ChainLines` and chooses the one at `choice`.
 void CaptureThenChoose(int count, int choice) {
-    Game.ChosenLine = CaptureFirst(count) ? Work.ChainLines.at(choice) : Integer{0};
+    for (int position = 1; position <= count; ++position)
+        Capture(Work.ChainLines.at(position));
+    Game.ChosenLine = Work.ChainLines.at(choice);
 }
 
 // Joins both walks in `ChainLines`, the shorter one first, so that what is declined lies at the end
