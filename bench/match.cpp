@@ -1,10 +1,10 @@
 // Lets two kinds of computer players play many games, and prints how strong the first one is.
 //   match FIRST SECOND COLUMNS ROWS GAMES [SEED]      kinds: 1 Average, 2 Intelligent, 3 Cheat
 #include <algorithm>
-#include <chrono>
 #include <cmath>
 #include <cstdio>
 #include <cstdlib>
+#include <ctime>
 #include <vector>
 
 #include "ai/move_selection.h"
@@ -16,8 +16,6 @@
 #include "ui/commands.h"
 
 namespace {
-
-using SteadyClock = std::chrono::steady_clock;
 
 struct Tally {
     int Games = 0;
@@ -43,24 +41,25 @@ struct Tally {
     }
 };
 
-// The longest time to choose a line, by kind, and the longest without letting the window answer.
+// Times are the processor's, whatever else runs on the machine. The longest to choose a line, by
+// kind, and the longest without letting the window answer.
 std::vector<double> LongestOfKind(4, 0.0);
 double LongestStretch = 0;
-SteadyClock::time_point LastYield;
+std::clock_t LastYield = 0;
 
-double MillisecondsSince(SteadyClock::time_point start) {
-    return std::chrono::duration<double, std::milli>(SteadyClock::now() - start).count();
+double MillisecondsSince(std::clock_t start) {
+    return 1000.0 * static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC;
 }
 
 void NoteYield() {
     LongestStretch = std::max(LongestStretch, MillisecondsSince(LastYield));
-    LastYield = SteadyClock::now();
+    LastYield = std::clock();
 }
 
 void PlayTurn() {
     const int kind = Game.PlayerKind.at(Game.CurrentPlayer);
     Game.ChosenLine = 0;
-    const auto start = LastYield = SteadyClock::now();
+    const std::clock_t start = LastYield = std::clock();
     ChooseComputerMove();
     NoteYield();
     LongestOfKind.at(kind) = std::max(LongestOfKind.at(kind), MillisecondsSince(start));
