@@ -35,19 +35,6 @@ TEST_F(DisplayTest, ShowsNumbersRightAlignedInFiveCharacters) {
     EXPECT_EQ(frmQuibsMain.txtLinesStatus.Text, "Lines:     0 of   220");
 }
 
-TEST_F(DisplayTest, ShowsWhoseTurnItIsOnOneSideOnly) {
-    Game.PlayerColor.at(1) = LightRed;
-    for (const int player : {2, 1}) {
-        ShowTurn(player);
-        const bool isFirst = player == 1;
-        EXPECT_EQ(frmQuibsMain.lblPlayer1Active.Caption, isFirst ? "Colossus's Turn" : "");
-        EXPECT_EQ(frmQuibsMain.lblPlayer2Active.Caption, isFirst ? "" : "Guardian's Turn");
-        EXPECT_EQ(frmQuibsMain.shpPlayer1Active.Visible, isFirst);
-        EXPECT_EQ(frmQuibsMain.shpPlayer2Active, (Shape{BrightWhite, !isFirst}));
-    }
-    EXPECT_EQ(frmQuibsMain.shpPlayer1Active.FillColor, LightRed);
-}
-
 TEST_F(DisplayTest, PlaysTheSoundsThatAreThereInTurnWhileTheyAreWanted) {
     const TestDirectory directory;
     for (const char* name : {"SndC1.wav", "SndC3.wav", "SndC0.wav", "SndC11.wav", "SndT10.wav"})

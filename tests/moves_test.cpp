@@ -73,24 +73,6 @@ TEST_F(Moves, OfAPersonThatAreRefusedChangeNothingButThePreview) {
     EXPECT_EQ(TheNullDesktop.Boxes.size(), 1U);
 }
 
-TEST_F(Moves, ThatCloseTwoBoxesScoreTwoAndKeepTheTurn) {
-    SetUpGame(2, 1, ComputerAverage, Humanoid);
-    DrawForNobody({1, 2, 3, 4, 5, 7});
-    Game.CurrentPlayer = 2;
-    frmQuibsMain.lblPlayer2Active.Caption = "Guardian's Turn";
-    frmQuibsMain.shpPlayer2Active.Visible = true;
-    Draw(6);
-    EXPECT_TRUE(BoardIsSound());
-    EXPECT_EQ(Game.CurrentPlayer, 2);
-    EXPECT_EQ(frmQuibsMain.txtPlayer2Status.Text, "Guardian:     2     Humanoid");
-    EXPECT_EQ(frmQuibsMain.txtBoxesStatus.Text, "Boxes:     2 of     2");
-    EXPECT_EQ(frmQuibsMain.txtLinesStatus.Text, "Lines:     7 of     7");
-    EXPECT_EQ(frmQuibsMain.lblPlayer2Active.Caption, "") << "the board is full";
-    EXPECT_FALSE(frmQuibsMain.shpPlayer2Active.Visible);
-    EXPECT_EQ(TheNullDesktop.Yields, 0);
-    EXPECT_TRUE(TheNullDesktop.Sounds.empty());
-}
-
 TEST_F(Moves, ThatPassTheTurnClickAndShineOnlyFromComputerToPerson) {
     const TestDirectory directory;
     PutBytes("SndClick.wav", "");
