@@ -77,6 +77,12 @@ public:
         return true;
     }
 
+    // For what a story cannot go on without.
+    static void Await(const std::string& what, const std::function<bool()>& condition) {
+        if (!WaitFor(condition))
+            throw std::runtime_error("waited in vain for " + what);
+    }
+
     // Presses keys one after another, as in "ctrl+t" or "alt+g a".
     void Press(const std::string& keys) {
         std::istringstream words(keys);
