@@ -4,6 +4,7 @@
 
 #include <QDeadlineTimer>
 #include <QProcess>
+#include <QRect>
 #include <QThread>
 
 #include <cstdlib>
@@ -19,14 +20,6 @@
 extern "C" {
 #include <xdo.h>
 }
-
-struct ScreenPoint {
-    int X, Y;
-};
-
-struct ScreenArea {
-    int Left, Top, Width, Height;
-};
 
 class Robot {
 public:
@@ -90,17 +83,17 @@ public:
             xdo_send_keysequence_window(Hand, CURRENTWINDOW, key.c_str(), 0);
     }
 
-    void MoveTo(ScreenPoint point) { xdo_move_mouse(Hand, point.X, point.Y, 0); }
+    void MoveTo(QPoint point) { xdo_move_mouse(Hand, point.x(), point.y(), 0); }
 
-    void Click(ScreenPoint point) {
+    void Click(QPoint point) {
         MoveTo(point);
         xdo_click_window(Hand, CURRENTWINDOW, 1);
     }
 
     // 0xRRGGBB.
-    unsigned long PixelAt(ScreenPoint point) {
-        XImage* image = XGetImage(Hand->xdpy, DefaultRootWindow(Hand->xdpy), point.X, point.Y, 1, 1,
-                                  AllPlanes, ZPixmap);
+    unsigned long PixelAt(QPoint point) {
+        XImage* image = XGetImage(Hand->xdpy, DefaultRootWindow(Hand->xdpy), point.x(), point.y(),
+                                  1, 1, AllPlanes, ZPixmap);
         if (image == nullptr)
             throw std::runtime_error("no such pixel on the screen");
         const unsigned long pixel = XGetPixel(image, 0, 0);
@@ -118,7 +111,7 @@ public:
     }
 
     // Where the inside of that window is.
-    ScreenArea FocusedArea() {
+    QRect FocusedArea() {
         XWindowAttributes inside{};
         XGetWindowAttributes(Hand->xdpy, FocusedWindow(), &inside);
         Window child = 0;

@@ -8,26 +8,25 @@
 
 namespace {
 
-constexpr unsigned Background = 0x000000; // the built-in colours
-constexpr unsigned Drawn = 0xFFFFFF;
+constexpr unsigned Drawn = 0xFFFFFF; // the built-in colours
 constexpr unsigned Ghost = 0xFF0000;
 constexpr int Spacing = 25;
 
 // Where the points of a field are on the screen, and the middles of its lines.
 struct ScreenField {
-    std::vector<ScreenPoint> Points, Lines;
+    std::vector<QPoint> Points, Lines;
 };
 
-ScreenField FieldAt(ScreenPoint first, int columns, int rows) {
+ScreenField FieldAt(QPoint first, int columns, int rows) {
     ScreenField field;
     for (int row = 0; row <= rows; ++row)
         for (int column = 0; column <= columns; ++column) {
-            const ScreenPoint point{first.X + column * Spacing, first.Y + row * Spacing};
+            const QPoint point = first + QPoint(column, row) * Spacing;
             field.Points.push_back(point);
             if (column < columns)
-                field.Lines.push_back({point.X + Spacing / 2, point.Y});
+                field.Lines.push_back(point + QPoint(Spacing / 2, 0));
             if (row < rows)
-                field.Lines.push_back({point.X, point.Y + Spacing / 2});
+                field.Lines.push_back(point + QPoint(0, Spacing / 2));
         }
     return field;
 }
@@ -42,7 +41,7 @@ protected:
         Await(title, [&] { return FocusedTitle() == title; });
     }
 
-    // A command that is about to be enabled may still be off when the keys arrive.
+    // A command that is about to be enabled may still be off when its keys arrive.
     void Open(const std::string& keys, const std::string& title) {
         const auto hasOpened = [&] { return FocusedTitle() == title; };
         Await(title, [&] {
@@ -51,26 +50,15 @@ protected:
         });
     }
 
-    void Answer(const std::string& title, const std::string& keys,
-                const std::string& next = "Quiblink") {
-        WaitForFocus(title);
-        Press(keys);
-        WaitForFocus(next);
-    }
-
-    void SetGrid(const std::string& keys) {
-        Open("ctrl+r", "Define Playing Grid");
-        Answer("Define Playing Grid", keys);
-    }
-
-    void SetPlayers(const std::string& keys) {
-        Open("ctrl+p", "Define Players");
-        Answer("Define Players", keys);
+    // Opens a dialog, which the last of the answers closes.
+    void Use(const std::string& keys, const std::string& title, const std::string& answers) {
+        Open(keys, title);
+        Press(answers);
+        WaitForFocus("Quiblink");
     }
 
     void QuitGame() {
-        Open("ctrl+q", "Quit the Game");
-        Answer("Quit the Game", "alt+y");
+        Use("ctrl+q", "Quit the Game", "alt+y");
         Await("the cleared field", [&] { return !IsDrawn(Field.Points.front()); });
     }
 
@@ -81,28 +69,28 @@ protected:
 
     // The field is centred in the picture: its left is known, and its top is searched for.
     bool FindField(int columns, int rows) {
-        const ScreenArea window = FocusedArea();
-        const int left = window.Left + (window.Width - columns * Spacing) / 2;
-        for (int top = window.Top; top < window.Top + window.Height / 2; ++top) {
+        const QRect window = FocusedArea();
+        const int left = window.left() + (window.width() - columns * Spacing) / 2;
+        for (int top = window.top(); top < window.center().y(); ++top) {
             Field = FieldAt({left, top}, columns, rows);
             if (std::all_of(Field.Points.begin(), Field.Points.end(),
-                            [&](ScreenPoint point) { return IsDrawn(point); }))
+                            [&](QPoint point) { return IsDrawn(point); }))
                 return true;
         }
         return false;
     }
 
-    bool IsDrawn(ScreenPoint point) { return PixelAt(point) == Drawn; }
+    bool IsDrawn(QPoint point) { return PixelAt(point) == Drawn; }
 
-    int CountDrawn() {
-        return static_cast<int>(std::count_if(Field.Lines.begin(), Field.Lines.end(),
-                                              [&](ScreenPoint line) { return IsDrawn(line); }));
+    long CountDrawn() {
+        return std::count_if(Field.Lines.begin(), Field.Lines.end(),
+                             [&](QPoint line) { return IsDrawn(line); });
     }
 
     // Draws the line if it is the person's turn, else waits until the computer has drawn it.
-    void PlayLine(ScreenPoint line) {
+    void PlayLine(QPoint line) {
         Await("the person's turn", [&] {
-            MoveTo({line.X + 1, line.Y + 1});
+            MoveTo(line + QPoint(1, 1));
             MoveTo(line);
             return IsDrawn(line) || PixelAt(line) == Ghost;
         });
@@ -115,16 +103,16 @@ protected:
 
     // Plays lines until so many are drawn.
     void PlayOn(int count) {
-        for (const ScreenPoint& line : Field.Lines)
+        for (const QPoint line : Field.Lines)
             if (CountDrawn() < count)
                 PlayLine(line);
-        ASSERT_EQ(CountDrawn(), count);
+        EXPECT_EQ(CountDrawn(), count);
     }
 
     // The colour of the picture beside the field.
     unsigned long ShownBackground() {
-        const ScreenArea window = FocusedArea();
-        return PixelAt({window.Left + 20, window.Top + window.Height / 2});
+        const QRect window = FocusedArea();
+        return PixelAt({window.left() + 20, window.center().y()});
     }
 
     ScreenField Field;
@@ -132,8 +120,9 @@ protected:
 };
 
 TEST_F(RealWindow, PlaysAWholeGameOfAPersonAgainstAComputerSetInTheDialogs) {
-    SetGrid("3 Tab 2 Return");
-    SetPlayers("Tab Tab Up Up Tab Tab Tab Down Down Return"); // Humanoid and Computer Cheat
+    Use("ctrl+r", "Define Playing Grid", "3 Tab 2 Return");
+    // The first player becomes a person, the second a Computer Cheat.
+    Use("ctrl+p", "Define Players", "Tab Tab Up Up Tab Tab Tab Down Down Return");
     StartGame("ctrl+t", 3, 2);
     PlayOn(17);
     EXPECT_GT(LinesOfPerson, 2);
@@ -147,52 +136,51 @@ TEST_F(RealWindow, PlaysAWholeGameOfAPersonAgainstAComputerSetInTheDialogs) {
 }
 
 TEST_F(RealWindow, AnswersItsMenusByAccessKeyAndEndsWithinASecondBehindADialog) {
-    SetGrid("4 Tab 4 Return");
+    Use("ctrl+r", "Define Playing Grid", "4 Tab 4 Return");
     StartGame("alt+g a", 4, 4); // Game, Auto
     Await("an automatic game", [&] { return CountDrawn() >= 16; });
-    Open("ctrl+x", "Exit the Game");
-    Answer("Exit the Game", "Escape");
-    Open("ctrl+h", "Quiblink Help");
-    Answer("Quiblink Help", "Return");
+    Use("ctrl+x", "Exit the Game", "Escape");
+    Use("ctrl+h", "Quiblink Help", "Return");
     Open("ctrl+y", "Quiblink History");
-    const ScreenArea viewer = FocusedArea();
-    Click({viewer.Left + viewer.Width - 50, viewer.Top + viewer.Height - 25}); // its Ok
+    Click(FocusedArea().bottomRight() - QPoint(50, 25)); // its Ok
     WaitForFocus("Quiblink");
 
-    const ScreenArea window = FocusedArea();
+    const QRect window = FocusedArea();
     Open("ctrl+r", "Define Playing Grid");
-    Click({window.Left + window.Width - 10, window.Top - 10}); // the close box
+    Click(window.topRight() - QPoint(10, 10)); // the close box
     EXPECT_EQ(WaitForExit(1000), 0);
 }
 
 TEST_F(RealWindow, KeepsAGameAndTheSettingsInFiles) {
-    SetGrid("3 Tab 2 Return");
-    SetPlayers("Tab Tab Up Up Tab Tab Tab Up Return"); // both are persons
+    Use("ctrl+r", "Define Playing Grid", "3 Tab 2 Return");
+    // Both players become persons.
+    Use("ctrl+p", "Define Players", "Tab Tab Up Up Tab Tab Tab Up Return");
     StartGame("ctrl+t", 3, 2);
     PlayOn(5);
 
     Press("ctrl+u"); // pauses
-    Open("ctrl+s", "Save a Quibs Game");
-    Answer("Save a Quibs Game", "s t o r y Return");
+    Use("ctrl+s", "Save a Quibs Game", "s t o r y Return");
     EXPECT_TRUE(std::filesystem::exists("story.qbs"));
     QuitGame();
-    Open("ctrl+o", "Open a Quibs Game");
-    Answer("Open a Quibs Game", "Tab s t o r y period q b s Return"); // past the list of games
+    Use("ctrl+o", "Open a Quibs Game", "Tab s t o r y period q b s Return"); // past the list
     Await("the saved lines", [&] { return CountDrawn() == 5; });
     Press("ctrl+t");
     PlayOn(17);
 
     Open("ctrl+r", "Define Playing Grid");
     Press("Tab Tab space"); // the colour of the background
-    Answer("Select Color", "alt+h End BackSpace BackSpace a a Return", "Define Playing Grid");
-    Answer("Define Playing Grid", "Return");
+    WaitForFocus("Select Color");
+    Press("alt+h End BackSpace BackSpace a a Return");
+    WaitForFocus("Define Playing Grid");
+    Press("Return");
+    WaitForFocus("Quiblink");
     Await("the chosen colour", [&] { return ShownBackground() == 0x0000AA; });
     Press("ctrl+x");
     EXPECT_EQ(WaitForExit(), 0);
 
     StartProgram();
     WaitForFocus("Quiblink");
-    Await("the chosen colour", [&] { return ShownBackground() == 0x0000AA; });
+    Await("the colour of the first run", [&] { return ShownBackground() == 0x0000AA; });
     Press("ctrl+x");
     EXPECT_EQ(WaitForExit(), 0);
 }
