@@ -45,8 +45,6 @@ public:
             process->waitForFinished();
         }
     }
-    Robot(const Robot&) = delete;
-    Robot& operator=(const Robot&) = delete;
 
     void StartProgram() { Program.start(QUIBLINK_PROGRAM, {}); }
 
@@ -74,6 +72,15 @@ public:
     static void Await(const std::string& what, const std::function<bool()>& condition) {
         if (!WaitFor(condition))
             throw std::runtime_error("waited in vain for " + what);
+    }
+
+    // For what the program may not yet be ready for: acts again and again.
+    static void ActUntil(const std::string& what, const std::function<bool()>& condition,
+                         const std::function<void()>& act) {
+        Await(what, [&] {
+            act();
+            return WaitFor(condition, 300);
+        });
     }
 
     // Presses keys one after another, as in "ctrl+t" or "alt+g a".

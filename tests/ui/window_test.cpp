@@ -8,7 +8,8 @@
 
 namespace {
 
-constexpr unsigned Drawn = 0xFFFFFF; // the built-in colours
+constexpr unsigned Background = 0x000000; // the built-in colours
+constexpr unsigned Drawn = 0xFFFFFF;
 constexpr unsigned Ghost = 0xFF0000;
 constexpr int Spacing = 25;
 
@@ -44,10 +45,7 @@ protected:
     // A command that is about to be enabled may still be off when its keys arrive.
     void Open(const std::string& keys, const std::string& title) {
         const auto hasOpened = [&] { return FocusedTitle() == title; };
-        Await(title, [&] {
-            Press(keys);
-            return WaitFor(hasOpened, 1000);
-        });
+        ActUntil(title, hasOpened, [&] { Press(keys); });
     }
 
     // Opens a dialog, which the last of the answers closes.
@@ -59,7 +57,7 @@ protected:
 
     void QuitGame() {
         Use("ctrl+q", "Quit the Game", "alt+y");
-        Await("the cleared field", [&] { return !IsDrawn(Field.Points.front()); });
+        Await("the cleared field", [&] { return AllPointsAre(Background); });
     }
 
     void StartGame(const std::string& keys, int columns, int rows) {
@@ -73,11 +71,15 @@ protected:
         const int left = window.left() + (window.width() - columns * Spacing) / 2;
         for (int top = window.top(); top < window.center().y(); ++top) {
             Field = FieldAt({left, top}, columns, rows);
-            if (std::all_of(Field.Points.begin(), Field.Points.end(),
-                            [&](QPoint point) { return IsDrawn(point); }))
+            if (AllPointsAre(Drawn))
                 return true;
         }
         return false;
+    }
+
+    bool AllPointsAre(unsigned color) {
+        return std::all_of(Field.Points.begin(), Field.Points.end(),
+                           [&](QPoint point) { return PixelAt(point) == color; });
     }
 
     bool IsDrawn(QPoint point) { return PixelAt(point) == Drawn; }
@@ -89,10 +91,11 @@ protected:
 
     // Draws the line if it is the person's turn, else waits until the computer has drawn it.
     void PlayLine(QPoint line) {
-        Await("the person's turn", [&] {
-            MoveTo(line + QPoint(1, 1));
-            MoveTo(line);
-            return IsDrawn(line) || PixelAt(line) == Ghost;
+        const auto isReady = [&] { return IsDrawn(line) || PixelAt(line) == Ghost; };
+        QPoint besideMiddle(1, 1);
+        ActUntil("the person's turn", isReady, [&] {
+            besideMiddle = -besideMiddle; // a pointer that stands still is not heard
+            MoveTo(line + besideMiddle);
         });
         if (IsDrawn(line))
             return;
