@@ -15,7 +15,7 @@
 
 #include "support/files.h"
 
-// After the others, for the macros of X take common words. A header of C that does not say so.
+// After the others, for the macros of X take common words. xdo.h does not say that it is C.
 #include <X11/Xutil.h>
 extern "C" {
 #include <xdo.h>
@@ -28,7 +28,7 @@ public:
             StartAndHear(ScreenServer, "Xvfb", {"-displayfd", "1", "-screen", "0", "1280x900x24"});
         setenv("DISPLAY", (":" + number).c_str(), 1);
         setenv("XDG_RUNTIME_DIR", Directory.Path.c_str(), 1);
-        setenv("XDG_CONFIG_HOME", Directory.Path.c_str(), 1);
+        setenv("XDG_CONFIG_HOME", Directory.Path.c_str(), 1); // where openbox finds no settings
         StartAndHear(WindowManager, "openbox", {"--sm-disable", "--startup", "echo ready"});
         Hand = xdo_new(nullptr);
         if (Hand == nullptr)
@@ -48,7 +48,7 @@ public:
 
     void StartProgram() { Program.start(QUIBLINK_PROGRAM, {}); }
 
-    // The exit status, or -1 when the program did not end in time or crashed.
+    // The exit status, or -1 if the program did not end in time or crashed.
     int WaitForExit(int milliseconds = 10'000) {
         const bool hasEnded = Program.waitForFinished(milliseconds);
         return hasEnded && Program.exitStatus() == QProcess::NormalExit ? Program.exitCode() : -1;

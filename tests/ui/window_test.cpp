@@ -150,7 +150,7 @@ TEST_F(RealWindow, AnswersItsMenusByAccessKeyAndEndsWithinASecondBehindADialog) 
 
     const QRect window = FocusedArea();
     Open("ctrl+r", "Define Playing Grid");
-    Click(window.topRight() - QPoint(10, 10)); // the close box
+    Click(window.topRight() - QPoint(10, 10)); // the close box above it
     EXPECT_EQ(WaitForExit(1000), 0);
 }
 
