@@ -112,7 +112,7 @@ public:
     std::string FocusedTitle() {
         char* name = nullptr;
         XFetchName(Hand->xdpy, FocusedWindow(), &name);
-        const std::string title = name == nullptr ? "" : name;
+        std::string title = name == nullptr ? "" : name;
         XFree(name);
         return title;
     }
