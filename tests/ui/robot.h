@@ -1,60 +1,149 @@
 // A desktop of its own for one test: a virtual screen with a window manager, the real program on
-// it, and a robot that presses keys and buttons and looks at pixels.
+// it in an empty directory, and a robot that presses keys and buttons and looks at pixels.
 #pragma once
 
-#include <sys/types.h>
+#include <QDeadlineTimer>
+#include <QProcess>
+#include <QRect>
+#include <QThread>
 
+#include <cstdlib>
 #include <functional>
-#include <optional>
+#include <sstream>
+#include <stdexcept>
 #include <string>
 
 #include "support/files.h"
 
-struct ScreenPoint {
-    int X, Y;
-};
-
-struct ScreenArea {
-    int Left, Top, Width, Height;
-};
+// After the others, for the macros of X take common words. xdo.h does not say that it is C.
+#include <X11/Xutil.h>
+extern "C" {
+#include <xdo.h>
+}
 
 class Robot {
 public:
-    // Starts screen, window manager and program, the latter in an empty directory.
-    Robot();
-    ~Robot();
-    Robot(const Robot&) = delete;
-    Robot& operator=(const Robot&) = delete;
+    Robot() {
+        const std::string number =
+            StartAndHear(ScreenServer, "Xvfb", {"-displayfd", "1", "-screen", "0", "1280x900x24"});
+        setenv("DISPLAY", (":" + number).c_str(), 1);
+        setenv("XDG_RUNTIME_DIR", Directory.Path.c_str(), 1);
+        setenv("XDG_CONFIG_HOME", Directory.Path.c_str(), 1); // where openbox finds no settings
+        StartAndHear(WindowManager, "openbox", {"--sm-disable", "--startup", "echo ready"});
+        Hand = xdo_new(nullptr);
+        if (Hand == nullptr)
+            throw std::runtime_error("the virtual screen does not answer");
+        // The focused window may be gone when it is asked for its name.
+        XSetErrorHandler([](Display*, XErrorEvent*) { return 0; });
+        Program.setStandardErrorFile("stderr", QIODevice::Append);
+        StartProgram();
+    }
+    ~Robot() {
+        xdo_free(Hand);
+        for (QProcess* process : {&Program, &WindowManager, &ScreenServer}) {
+            process->kill();
+            process->waitForFinished();
+        }
+    }
 
-    // Starts the program again, in the same directory, after it has ended.
-    void StartProgram();
+    void StartProgram() { Program.start(QUIBLINK_PROGRAM, {}); }
 
-    // Presses keys like "ctrl+t", "Return" or "alt+y"; Type writes letters and digits.
-    void Press(const std::string& keys);
-    void Type(const std::string& text);
-    void MoveTo(ScreenPoint point);
-    void Click(ScreenPoint point);
-    void PressCloseBox(const std::string& windowTitle);
+    // The exit status, or -1 if the program did not end in time or crashed.
+    int WaitForExit(int milliseconds = 10'000) {
+        const bool hasEnded = Program.waitForFinished(milliseconds);
+        return hasEnded && Program.exitStatus() == QProcess::NormalExit ? Program.exitCode() : -1;
+    }
 
-    // 0xRRGGBB.
-    unsigned PixelAt(ScreenPoint point);
-
-    // Where the inside of the window of that title is, if it is shown.
-    std::optional<ScreenArea> FindWindow(const std::string& title);
+    // Of all runs of the program.
+    static std::string StandardError() { return BytesOf("stderr"); }
 
     // Tells whether it came true before the time was up.
-    bool WaitFor(const std::function<bool()>& condition, double seconds = 10);
-    bool WaitForWindow(const std::string& title, double seconds = 10);
-    bool WaitForNoWindow(const std::string& title);
+    static bool WaitFor(const std::function<bool()>& condition, int milliseconds = 20'000) {
+        const QDeadlineTimer end(milliseconds);
+        while (!condition()) {
+            if (end.hasExpired())
+                return false;
+            QThread::msleep(10);
+        }
+        return true;
+    }
 
-    // The exit status, or -1 when the program did not end within a second.
-    int WaitForExit();
-    std::string StandardError() const;
+    // For what a story cannot go on without.
+    static void Await(const std::string& what, const std::function<bool()>& condition) {
+        if (!WaitFor(condition))
+            throw std::runtime_error("waited in vain for " + what);
+    }
+
+    // For what the program may not yet be ready for: acts again and again.
+    static void ActUntil(const std::string& what, const std::function<bool()>& condition,
+                         const std::function<void()>& act) {
+        Await(what, [&] {
+            act();
+            return WaitFor(condition, 300);
+        });
+    }
+
+    // Presses keys one after another, as in "ctrl+t" or "alt+g a".
+    void Press(const std::string& keys) {
+        std::istringstream words(keys);
+        for (std::string key; words >> key;)
+            xdo_send_keysequence_window(Hand, CURRENTWINDOW, key.c_str(), 0);
+    }
+
+    void MoveTo(QPoint point) { xdo_move_mouse(Hand, point.x(), point.y(), 0); }
+
+    void Click(QPoint point) {
+        MoveTo(point);
+        xdo_click_window(Hand, CURRENTWINDOW, 1);
+    }
+
+    // 0xRRGGBB.
+    unsigned long PixelAt(QPoint point) {
+        XImage* image = XGetImage(Hand->xdpy, DefaultRootWindow(Hand->xdpy), point.x(), point.y(),
+                                  1, 1, AllPlanes, ZPixmap);
+        if (image == nullptr)
+            throw std::runtime_error("no such pixel on the screen");
+        const unsigned long pixel = XGetPixel(image, 0, 0);
+        XDestroyImage(image);
+        return pixel;
+    }
+
+    // The title of the window that has the keyboard.
+    std::string FocusedTitle() {
+        char* name = nullptr;
+        XFetchName(Hand->xdpy, FocusedWindow(), &name);
+        std::string title = name == nullptr ? "" : name;
+        XFree(name);
+        return title;
+    }
+
+    // Where the inside of that window is.
+    QRect FocusedArea() {
+        XWindowAttributes inside{};
+        XGetWindowAttributes(Hand->xdpy, FocusedWindow(), &inside);
+        Window child = 0;
+        XTranslateCoordinates(Hand->xdpy, FocusedWindow(), inside.root, 0, 0, &inside.x, &inside.y,
+                              &child);
+        return {inside.x, inside.y, inside.width, inside.height};
+    }
 
 private:
-    pid_t Start(std::initializer_list<const char*> words);
+    // Starts a program that writes a line when it is ready, and tells that line.
+    static std::string StartAndHear(QProcess& process, const char* program,
+                                    const QStringList& arguments) {
+        process.start(program, arguments);
+        process.waitForReadyRead();
+        return process.readLine().trimmed().toStdString();
+    }
 
-    void* Screen = nullptr;
-    pid_t ScreenServer = -1, WindowManager = -1, Program = -1;
-    TestDirectory ProgramDirectory;
+    Window FocusedWindow() {
+        Window window = 0;
+        int revertsTo = 0;
+        XGetInputFocus(Hand->xdpy, &window, &revertsTo);
+        return window;
+    }
+
+    TestDirectory Directory;
+    QProcess ScreenServer, WindowManager, Program;
+    xdo_t* Hand = nullptr;
 };

@@ -1,6 +1,7 @@
 // Stories in the real window: keys and pointer go in, pixels come out.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <vector>
 
 #include "ui/robot.h"
@@ -12,222 +13,179 @@ constexpr unsigned Drawn = 0xFFFFFF;
 constexpr unsigned Ghost = 0xFF0000;
 constexpr int Spacing = 25;
 
-// A field as it stands on the screen, and the points where its lines can be looked at.
+// Where the points of a field are on the screen, and the middles of its lines.
 struct ScreenField {
-    ScreenPoint FirstPoint{};
-    int Columns = 0, Rows = 0;
-
-    std::vector<ScreenPoint> LineMiddles() const {
-        std::vector<ScreenPoint> middles;
-        for (int row = 0; row <= Rows; ++row)
-            for (int column = 0; column <= Columns; ++column) {
-                const ScreenPoint point{FirstPoint.X + column * Spacing,
-                                        FirstPoint.Y + row * Spacing};
-                if (column < Columns)
-                    middles.push_back({point.X + Spacing / 2, point.Y});
-                if (row < Rows)
-                    middles.push_back({point.X, point.Y + Spacing / 2});
-            }
-        return middles;
-    }
+    std::vector<QPoint> Points, Lines;
 };
 
-class Window : public ::testing::Test {
+ScreenField FieldAt(QPoint first, int columns, int rows) {
+    ScreenField field;
+    for (int row = 0; row <= rows; ++row)
+        for (int column = 0; column <= columns; ++column) {
+            const QPoint point = first + QPoint(column, row) * Spacing;
+            field.Points.push_back(point);
+            if (column < columns)
+                field.Lines.push_back(point + QPoint(Spacing / 2, 0));
+            if (row < rows)
+                field.Lines.push_back(point + QPoint(0, Spacing / 2));
+        }
+    return field;
+}
+
+class RealWindow : public ::testing::Test, protected Robot {
 protected:
-    void SetUp() override { ASSERT_TRUE(Screen.WaitForWindow("Quiblink")); }
+    void SetUp() override { WaitForFocus("Quiblink"); }
 
-    void TearDown() override { EXPECT_EQ(Screen.StandardError(), ""); }
+    void TearDown() override { EXPECT_EQ(StandardError(), ""); }
 
-    // A command that is about to be enabled may still be off when the keys arrive.
+    void WaitForFocus(const std::string& title) {
+        Await(title, [&] { return FocusedTitle() == title; });
+    }
+
+    // A command that is about to be enabled may still be off when its keys arrive.
     void Open(const std::string& keys, const std::string& title) {
-        ASSERT_TRUE(Screen.WaitFor([&] {
-            Screen.Press(keys);
-            return Screen.WaitForWindow(title, 0.3);
-        }));
+        const auto hasOpened = [&] { return FocusedTitle() == title; };
+        ActUntil(title, hasOpened, [&] { Press(keys); });
     }
 
-    void Answer(const std::string& title, const std::string& keys) {
-        ASSERT_TRUE(Screen.WaitForWindow(title));
-        Screen.Press(keys);
-        ASSERT_TRUE(Screen.WaitForNoWindow(title));
+    // Opens a dialog, which the last of the answers closes.
+    void Use(const std::string& keys, const std::string& title, const std::string& answers) {
+        Open(keys, title);
+        Press(answers);
+        WaitForFocus("Quiblink");
     }
 
-    void SetGrid(const std::string& columns, const std::string& rows) {
-        Open("ctrl+r", "Define Playing Grid");
-        Screen.Type(columns);
-        Screen.Press("Tab");
-        Screen.Type(rows);
-        Answer("Define Playing Grid", "Return");
+    void QuitGame() {
+        Use("ctrl+q", "Quit the Game", "alt+y");
+        Await("the cleared field", [&] { return AllPointsAre(Background); });
     }
 
-    // Whether all points of a field stand on the screen, with nothing left of or above the first.
-    bool IsField(const ScreenField& field) {
-        for (int row = 0; row <= field.Rows; ++row)
-            for (int column = 0; column <= field.Columns; ++column)
-                if (!IsDrawn({field.FirstPoint.X + column * Spacing,
-                              field.FirstPoint.Y + row * Spacing}))
-                    return false;
-        return Screen.PixelAt({field.FirstPoint.X - 1, field.FirstPoint.Y}) == Background &&
-               Screen.PixelAt({field.FirstPoint.X, field.FirstPoint.Y - 1}) == Background;
+    void StartGame(const std::string& keys, int columns, int rows) {
+        Press(keys);
+        Await("the field", [&] { return FindField(columns, rows); });
     }
 
-    // The field is centred in the picture, so its first point lies half its width left of the
-    // middle; how far down is seen. No columns where there is none.
-    ScreenField FindField(int columns, int rows) {
-        const ScreenArea window = Screen.FindWindow("Quiblink").value();
-        const int left = window.Left + (window.Width - columns * Spacing) / 2;
-        for (int y = window.Top + 90; y < window.Top + window.Height - 100 - rows * Spacing; ++y)
-            for (const int x : {left - 1, left, left + 1})
-                if (const ScreenField field{{x, y}, columns, rows}; IsField(field))
-                    return field;
-        return {};
+    // The field is centred in the picture: its left is known, and its top is searched for.
+    bool FindField(int columns, int rows) {
+        const QRect window = FocusedArea();
+        const int left = window.left() + (window.width() - columns * Spacing) / 2;
+        for (int top = window.top(); top < window.center().y(); ++top) {
+            Field = FieldAt({left, top}, columns, rows);
+            if (AllPointsAre(Drawn))
+                return true;
+        }
+        return false;
     }
 
-    // Starts a game; right after a dialog the first keys may still miss the window.
-    ScreenField StartGame(std::initializer_list<const char*> keys, int columns, int rows) {
-        ScreenField field;
-        EXPECT_TRUE(Screen.WaitFor([&] {
-            for (const char* key : keys)
-                Screen.Press(key);
-            return Screen.WaitFor([&] { return (field = FindField(columns, rows)).Columns > 0; },
-                                  0.5);
-        }));
-        return field;
+    bool AllPointsAre(unsigned color) {
+        return std::all_of(Field.Points.begin(), Field.Points.end(),
+                           [&](QPoint point) { return PixelAt(point) == color; });
     }
 
-    // A point of the playing field beside all lines.
-    ScreenPoint FieldMargin() {
-        const ScreenArea window = Screen.FindWindow("Quiblink").value();
-        return {window.Left + window.Width / 2, window.Top + window.Height / 2 - 150};
+    bool IsDrawn(QPoint point) { return PixelAt(point) == Drawn; }
+
+    long CountDrawn() {
+        return std::count_if(Field.Lines.begin(), Field.Lines.end(),
+                             [&](QPoint line) { return IsDrawn(line); });
     }
 
-    bool IsDrawn(ScreenPoint middle) { return Screen.PixelAt(middle) == Drawn; }
-
-    int CountDrawn(const ScreenField& field) {
-        int drawn = 0;
-        for (const ScreenPoint& middle : field.LineMiddles())
-            drawn += IsDrawn(middle) ? 1 : 0;
-        return drawn;
-    }
-
-    // Draws the line if it is the person's turn, else waits until the computer has drawn it. A
-    // refused line is left for later.
-    void PlayLine(ScreenPoint middle) {
-        ASSERT_TRUE(Screen.WaitFor([&] {
-            Screen.MoveTo({middle.X + 1, middle.Y + 1});
-            Screen.MoveTo(middle);
-            return IsDrawn(middle) || Screen.PixelAt(middle) == Ghost;
-        }));
-        if (IsDrawn(middle))
+    // Draws the line if it is the person's turn, else waits until the computer has drawn it.
+    void PlayLine(QPoint line) {
+        const auto isReady = [&] { return IsDrawn(line) || PixelAt(line) == Ghost; };
+        QPoint besideMiddle(1, 1);
+        ActUntil("the person's turn", isReady, [&] {
+            besideMiddle = -besideMiddle; // a pointer that stands still is not heard
+            MoveTo(line + besideMiddle);
+        });
+        if (IsDrawn(line))
             return;
-        Screen.Click(middle);
-        ASSERT_TRUE(Screen.WaitFor(
-            [&] { return IsDrawn(middle) || Screen.FindWindow("Illegal Move").has_value(); }));
-        if (IsDrawn(middle))
-            ++LinesOfPerson;
-        else
-            Answer("Illegal Move", "Return");
+        Click(line);
+        Await("the line", [&] { return IsDrawn(line); });
+        ++LinesOfPerson;
     }
 
-    // Plays lines until so many are drawn. Each pass draws at least one.
-    void PlayOn(const ScreenField& field, int lines) {
-        for (int pass = 0; pass < lines && CountDrawn(field) < lines; ++pass)
-            for (const ScreenPoint& middle : field.LineMiddles())
-                if (CountDrawn(field) < lines && !HasFatalFailure())
-                    PlayLine(middle);
-        ASSERT_EQ(CountDrawn(field), lines);
+    // Plays lines until so many are drawn.
+    void PlayOn(int count) {
+        for (const QPoint line : Field.Lines)
+            if (CountDrawn() < count)
+                PlayLine(line);
+        EXPECT_EQ(CountDrawn(), count);
     }
 
-    Robot Screen;
+    // The colour of the picture beside the field.
+    unsigned long ShownBackground() {
+        const QRect window = FocusedArea();
+        return PixelAt({window.left() + 20, window.center().y()});
+    }
+
+    ScreenField Field;
     int LinesOfPerson = 0;
 };
 
-TEST_F(Window, PlaysAWholeGameOfAPersonAgainstAComputerSetInTheDialogs) {
-    SetGrid("3", "2");
-    Open("ctrl+p", "Define Players");
-    Screen.Type("Ada");
-    Screen.Press("Tab"); // the colour
-    Screen.Press("Tab"); // the kind, Computer Intelligent
-    Screen.Press("Up");
-    Screen.Press("Up");
-    Answer("Define Players", "Return");
-
-    const ScreenField field = StartGame({"ctrl+t"}, 3, 2);
-    const std::vector<ScreenPoint> lines = field.LineMiddles();
-    ASSERT_EQ(lines.size(), 17U);
-    PlayOn(field, static_cast<int>(lines.size()));
+TEST_F(RealWindow, PlaysAWholeGameOfAPersonAgainstAComputerSetInTheDialogs) {
+    Use("ctrl+r", "Define Playing Grid", "3 Tab 2 Return");
+    // The first player becomes a person, the second a Computer Cheat.
+    Use("ctrl+p", "Define Players", "Tab Tab Up Up Tab Tab Tab Down Down Return");
+    StartGame("ctrl+t", 3, 2);
+    PlayOn(17);
     EXPECT_GT(LinesOfPerson, 2);
 
     // The game is over: a new one begins with an empty field, and can be given up.
-    Screen.Press("ctrl+t");
-    EXPECT_TRUE(Screen.WaitFor([&] { return CountDrawn(field) <= 1; }));
-    Open("ctrl+q", "Quit the Game");
-    Answer("Quit the Game", "alt+y");
-    EXPECT_TRUE(Screen.WaitFor([&] { return Screen.PixelAt(field.FirstPoint) == Background; }));
-    Screen.Press("ctrl+x");
-    EXPECT_EQ(Screen.WaitForExit(), 0);
+    Press("ctrl+t");
+    Await("an empty field", [&] { return CountDrawn() <= 1; });
+    QuitGame();
+    Press("ctrl+x");
+    EXPECT_EQ(WaitForExit(), 0);
 }
 
-TEST_F(Window, AnswersItsMenusByAccessKeyAndEndsWithinASecondInEveryWait) {
-    SetGrid("4", "4");
-    const ScreenField field = StartGame({"alt+g", "a"}, 4, 4); // Game, Auto
-    EXPECT_TRUE(Screen.WaitFor([&] { return CountDrawn(field) >= 16; }));
-    Open("ctrl+x", "Exit the Game");
-    Answer("Exit the Game", "Escape");
-    Open("ctrl+h", "Quiblink Help");
-    Answer("Quiblink Help", "Return");
+TEST_F(RealWindow, AnswersItsMenusByAccessKeyAndEndsWithinASecondBehindADialog) {
+    Use("ctrl+r", "Define Playing Grid", "4 Tab 4 Return");
+    StartGame("alt+g a", 4, 4); // Game, Auto
+    Await("an automatic game", [&] { return CountDrawn() >= 16; });
+    Use("ctrl+x", "Exit the Game", "Escape");
+    Use("ctrl+h", "Quiblink Help", "Return");
     Open("ctrl+y", "Quiblink History");
-    const ScreenArea viewer = Screen.FindWindow("Quiblink History").value();
-    Screen.Click({viewer.Left + viewer.Width - 50, viewer.Top + viewer.Height - 25}); // its Ok
-    EXPECT_TRUE(Screen.WaitForNoWindow("Quiblink History"));
-    Open("ctrl+r", "Define Playing Grid"); // a dialog must not keep the program alive
-    Screen.PressCloseBox("Quiblink");
-    EXPECT_EQ(Screen.WaitForExit(), 0);
+    Click(FocusedArea().bottomRight() - QPoint(50, 25)); // its Ok
+    WaitForFocus("Quiblink");
+
+    const QRect window = FocusedArea();
+    Open("ctrl+r", "Define Playing Grid");
+    Click(window.topRight() - QPoint(10, 10)); // the close box above it
+    EXPECT_EQ(WaitForExit(1000), 0);
 }
 
-TEST_F(Window, KeepsAGameAndTheSettingsInFiles) {
-    SetGrid("3", "2");
-    Open("ctrl+p", "Define Players");
-    for (const char* keys : {"Tab", "Tab", "Up", "Up", "Tab", "Tab", "Tab", "Up"})
-        Screen.Press(keys); // both are persons
-    Answer("Define Players", "Return");
-    const ScreenField field = StartGame({"ctrl+t"}, 3, 2);
-    PlayOn(field, 5);
+TEST_F(RealWindow, KeepsAGameAndTheSettingsInFiles) {
+    Use("ctrl+r", "Define Playing Grid", "3 Tab 2 Return");
+    // Both players become persons.
+    Use("ctrl+p", "Define Players", "Tab Tab Up Up Tab Tab Tab Up Return");
+    StartGame("ctrl+t", 3, 2);
+    PlayOn(5);
 
-    Screen.Press("ctrl+u");
-    Open("ctrl+s", "Save a Quibs Game");
-    Screen.Type("story");
-    Answer("Save a Quibs Game", "Return");
+    Press("ctrl+u"); // pauses
+    Use("ctrl+s", "Save a Quibs Game", "s t o r y Return");
     EXPECT_TRUE(std::filesystem::exists("story.qbs"));
-    Open("ctrl+q", "Quit the Game");
-    Answer("Quit the Game", "alt+y");
-    EXPECT_TRUE(Screen.WaitFor([&] { return CountDrawn(field) == 0; }));
-
-    Open("ctrl+o", "Open a Quibs Game");
-    Screen.Press("Tab"); // from the list of games to the path
-    Screen.Type("story");
-    Screen.Press("period");
-    Screen.Type("qbs");
-    Answer("Open a Quibs Game", "Return");
-    EXPECT_TRUE(Screen.WaitFor([&] { return CountDrawn(field) == 5; }));
-    Screen.Press("ctrl+t");
-    PlayOn(field, static_cast<int>(field.LineMiddles().size()));
+    QuitGame();
+    Use("ctrl+o", "Open a Quibs Game", "Tab s t o r y period q b s Return"); // past the list
+    Await("the saved lines", [&] { return CountDrawn() == 5; });
+    Press("ctrl+t");
+    PlayOn(17);
 
     Open("ctrl+r", "Define Playing Grid");
-    for (const char* keys : {"Tab", "Tab", "space"})
-        Screen.Press(keys); // the colour of the background
-    ASSERT_TRUE(Screen.WaitForWindow("Select Color"));
-    for (const char* keys : {"alt+h", "End", "BackSpace", "BackSpace", "a", "a"})
-        Screen.Press(keys);
-    Answer("Select Color", "Return");
-    Answer("Define Playing Grid", "Return");
-    EXPECT_TRUE(Screen.WaitFor([&] { return Screen.PixelAt(FieldMargin()) == 0x0000AA; }));
-    Screen.Press("ctrl+x");
-    EXPECT_EQ(Screen.WaitForExit(), 0);
+    Press("Tab Tab space"); // the colour of the background
+    WaitForFocus("Select Color");
+    Press("alt+h End BackSpace BackSpace a a Return");
+    WaitForFocus("Define Playing Grid");
+    Press("Return");
+    WaitForFocus("Quiblink");
+    Await("the chosen colour", [&] { return ShownBackground() == 0x0000AA; });
+    Press("ctrl+x");
+    EXPECT_EQ(WaitForExit(), 0);
 
-    Screen.StartProgram();
-    ASSERT_TRUE(Screen.WaitForWindow("Quiblink"));
-    EXPECT_TRUE(Screen.WaitFor([&] { return Screen.PixelAt(FieldMargin()) == 0x0000AA; }));
+    StartProgram();
+    WaitForFocus("Quiblink");
+    Await("the colour of the first run", [&] { return ShownBackground() == 0x0000AA; });
+    Press("ctrl+x");
+    EXPECT_EQ(WaitForExit(), 0);
 }
 
 } // namespace
