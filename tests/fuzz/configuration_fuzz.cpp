@@ -1,32 +1,37 @@
-// Any bytes as the configuration: read at start, played with, written at exit and read again.
-#include <cstdint>
-#include <cstdlib>
-
-#include "core/game_state.h"
-#include "platform/controls.h"
+// Any bytes as the configuration: taken whole or not at all, written, read again and played with.
+#include "fuzz/target.h"
 #include "storage/configuration.h"
-#include "support/brief_use.h"
 #include "support/files.h"
+#include "support/person.h"
 #include "ui/commands.h"
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    const TestDirectory directory;
-    const std::string file = "QUIBLNK.CFG";
-    BeginAnew();
+namespace {
+
+GameState ReadOver(const GameState& settings) {
+    Game = settings;
+    ReadConfiguration();
+    return Game;
+}
+
+} // namespace
+
+int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    static const TestDirectory directory;
+    std::filesystem::remove("QUIBLNK.CFG");
+    StartFresh();
     const GameState builtIn = Game;
-    PutBytes(file, {reinterpret_cast<const char*>(data), size});
-    Form_Load();
-    const bool isPlayable = Game == builtIn || UseGameBriefly();
+    GameState silent = builtIn;
+    silent.SoundOn = false; // the last value
+    PutBytes("QUIBLNK.CFG", AsText(data, size));
+    const GameState readOverSilent = ReadOver(silent);
+    const GameState read = ReadOver(builtIn);
+    Require(read == readOverSilent || (read == builtIn && readOverSilent == silent),
+            "settings are taken whole or not at all");
     Game.SettingsChanged = true;
-    mnuExit_Click();
-    const std::string written = BytesOf(file);
-    const bool readsBack =
-        ReadsBackAsWritten(Game.PlayerName.at(1)) && ReadsBackAsWritten(Game.PlayerName.at(2));
-    BeginAnew();
-    Form_Load();
-    Game.SettingsChanged = true;
-    mnuExit_Click();
-    if (!isPlayable || written.empty() || (readsBack && written != BytesOf(file)))
-        std::abort();
+    WriteConfiguration();
+    Require(!NamesReadBackAsWritten() || ReadOver(builtIn) == read, "settings last");
+    Require(read == builtIn || UseGameBriefly(), "a game begins and ends");
+    for (const MessageBox& box : TheNullDesktop.Boxes)
+        Require(box.Title == "Illegal Move", "no settings make a game fail");
     return 0;
 }

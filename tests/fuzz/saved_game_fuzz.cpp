@@ -1,13 +1,10 @@
 // Any bytes as a saved game: opened, saved, played on.
-#include <cstdint>
-#include <cstdlib>
-
-#include "core/game_state.h"
 #include "display/field.h"
+#include "fuzz/target.h"
 #include "storage/saved_game.h"
 #include "storage/value_file.h"
-#include "support/brief_use.h"
 #include "support/files.h"
+#include "support/person.h"
 #include "ui/commands.h"
 
 namespace {
@@ -18,32 +15,26 @@ bool IsWellFormed() {
            Game.GridRows == FieldRows() &&
            Game.FieldRight - Game.FieldLeft == FieldColumns() * Game.PointSpacingX &&
            Game.FieldBottom - Game.FieldTop == FieldRows() * Game.PointSpacingY &&
-           ReadsBackAsWritten(Game.PlayerName.at(1)) && ReadsBackAsWritten(Game.PlayerName.at(2));
-}
-
-void Require(bool condition) {
-    if (!condition)
-        std::abort();
+           NamesReadBackAsWritten();
 }
 
 } // namespace
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    const TestDirectory directory;
-    const std::string given = directory.Path + "/given.qbs";
-    const std::string saved = directory.Path + "/saved.qbs";
-    BeginAnew();
-    PutBytes(given, {reinterpret_cast<const char*>(data), size});
-    OpenGame(given);
+int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    static const TestDirectory directory;
+    StartFresh();
+    TheNullDesktop.Answers.assign(9, MessageAnswer::Yes);
+    PutBytes("given.qbs", AsText(data, size));
+    OpenGame("given.qbs");
     CloseChannel();
     if (IsWellFormed()) {
-        SaveGame(saved);
-        const std::string bytes = BytesOf(saved);
-        LoadGame(saved);
-        SaveGame(saved);
-        Require(!bytes.empty() && bytes == BytesOf(saved));
+        SaveGame("saved.qbs");
+        const std::string bytes = BytesOf("saved.qbs");
+        LoadGame("saved.qbs");
+        SaveGame("saved.qbs");
+        Require(bytes == BytesOf("saved.qbs"), "a game lasts from file to file");
     }
-    Require(UseGameBriefly());
-    SaveGame(saved);
+    Require(UseGameBriefly(), "a next game begins and ends");
+    SaveGame("saved.qbs");
     return 0;
 }

@@ -1,0 +1,29 @@
+// What every fuzz target is to its fuzzer or its replay.
+#pragma once
+
+#include <cstdint>
+#include <stdexcept>
+#include <string>
+
+#include "core/game_state.h"
+
+// Does everything with one input. A fault is thrown, or ends the process.
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size);
+
+inline void Require(bool condition, const char* demand) {
+    if (!condition)
+        throw std::logic_error(demand);
+}
+
+inline std::string AsText(const std::uint8_t* data, std::size_t size) {
+    return {reinterpret_cast<const char*>(data), size};
+}
+
+// Whether a file gives the names back as they were written: a comma, a blank in front and a
+// quotation mark there do not survive.
+inline bool NamesReadBackAsWritten() {
+    const auto survives = [](const std::string& name) {
+        return name.find(',') == std::string::npos && name.find_first_of(" \"") != 0;
+    };
+    return survives(Game.PlayerName.at(1)) && survives(Game.PlayerName.at(2));
+}
