@@ -16,17 +16,6 @@ void Run(const std::string& input) {
     }
 }
 
-void RunDamaged(const std::string& sample) {
-    for (std::size_t place = 0; place < sample.size(); ++place) {
-        Run(sample.substr(0, place));
-        std::string damaged = sample;
-        for (int byte = 0; byte < 256; ++byte) {
-            damaged.at(place) = static_cast<char>(byte);
-            Run(damaged);
-        }
-    }
-}
-
 } // namespace
 
 int main(int argc, char** argv) {
@@ -36,6 +25,11 @@ int main(int argc, char** argv) {
     Require(!sample.empty(), "there is a sample to damage");
     for (const auto& file : std::filesystem::directory_iterator(std::filesystem::absolute(argv[1])))
         Run(BytesOf(file.path()));
-    RunDamaged(sample);
+    for (std::size_t place = 0; place < sample.size(); ++place) {
+        const std::string start = sample.substr(0, place);
+        Run(start);
+        for (int byte = 0; byte < 256; ++byte)
+            Run(start + static_cast<char>(byte) + sample.substr(place + 1));
+    }
     return 0;
 }

@@ -1,5 +1,6 @@
 // Any bytes as a saved game: opened, saved, played on.
-#include "display/field.h"
+#include <utility>
+
 #include "fuzz/target.h"
 #include "storage/saved_game.h"
 #include "storage/value_file.h"
@@ -7,33 +8,22 @@
 #include "support/person.h"
 #include "ui/commands.h"
 
-namespace {
-
-// Whether saving the game loses nothing.
-bool IsWellFormed() {
-    return Game.GamePaused && TablesMatchField() && Game.GridColumns == FieldColumns() &&
-           Game.GridRows == FieldRows() &&
-           Game.FieldRight - Game.FieldLeft == FieldColumns() * Game.PointSpacingX &&
-           Game.FieldBottom - Game.FieldTop == FieldRows() * Game.PointSpacingY &&
-           NamesReadBackAsWritten();
-}
-
-} // namespace
-
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     static const TestDirectory directory;
+    std::filesystem::remove("saved.qbs");
     StartFresh();
     TheNullDesktop.Answers.assign(9, MessageAnswer::Yes);
     PutBytes("given.qbs", AsText(data, size));
     OpenGame("given.qbs");
     CloseChannel();
-    if (IsWellFormed()) {
+    // The first round may mend a field of another width than its boxes have.
+    std::string bytes, before;
+    for (int round = 1; round <= 3 && Game.GamePaused && NamesReadBackAsWritten(); ++round) {
         SaveGame("saved.qbs");
-        const std::string bytes = BytesOf("saved.qbs");
+        before = std::exchange(bytes, BytesOf("saved.qbs"));
         LoadGame("saved.qbs");
-        SaveGame("saved.qbs");
-        Require(bytes == BytesOf("saved.qbs"), "a game lasts from file to file");
     }
+    Require(bytes == before, "a game lasts from file to file");
     Require(UseGameBriefly(), "a next game begins and ends");
     SaveGame("saved.qbs");
     return 0;

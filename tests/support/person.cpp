@@ -52,31 +52,28 @@ void LetPersonsPlay(std::uint32_t seed) {
     };
 }
 
-// Whether the game had a whole board when it began, and ended.
-static bool PlayBriefly() {
+bool UseGameBriefly() {
     constexpr int mostYields = 40;
     int yields = 0;
-    bool beganWhole = false;
+    bool isWhole = false;
     LetPersonsPlay(1);
     TheNullDesktop.WhenYielding = [&] {
-        if (++yields == 1)
-            beganWhole = Game.GameInPlay && TablesMatchField();
-        if (yields % 8 == 0)
+        isWhole = TablesMatchField();
+        if (++yields % 8 == 0)
             RunGuarded(Form_Resize);
         if (yields >= mostYields)
             Game.QuitRequested = Game.GameInPlay;
     };
-    RunGuarded([] { RunCommand(Command::Start); });
-    TheNullDesktop.WhenYielding = nullptr;
-    return beganWhole && !Game.GameInPlay;
-}
-
-bool UseGameBriefly() {
     RunGuarded(Form_Resize);
     for (const int line : UndrawnLines())
         PressLine(line);
-    PlayBriefly();
-    // Without a pause this begins a new game, which heals everything.
-    Game.GamePaused = false;
-    return PlayBriefly();
+    for (const bool isNew : {false, true}) {
+        // Without a pause this begins a new game, which heals everything.
+        Game.GamePaused = Game.GamePaused && !isNew;
+        isWhole = false;
+        yields = 0;
+        RunGuarded([] { RunCommand(Command::Start); });
+    }
+    TheNullDesktop.WhenYielding = nullptr;
+    return isWhole && !Game.GameInPlay;
 }
