@@ -100,38 +100,6 @@ const Wait Waits[] = {
     {"a sacrifice", 2, ComputerIntelligent, Humanoid, {1, 2, 3, 4}, 0.5},
 };
 
-// What may happen in the middle of a wait, and what must come of it.
-struct Event {
-    const char* Name;
-    void (*Happen)();
-    void (*ExpectOutcome)();
-};
-
-void AskWhatIsOutOfPlace() {
-    const GameState before = Game;
-    for (const auto command : {mnuStart_Click, mnuAuto_Click, mnuDraw_Click, mnuExchange_Click})
-        command();
-    if (Game.MouseDownSeen)
-        mnuHint_Click();
-    EXPECT_TRUE(Game == before);
-}
-
-void ChangeMind() {
-    mnuPause_Click();
-    mnuStart_Click();
-    TheNullDesktop.Answers = {MessageAnswer::No, MessageAnswer::No};
-    mnuQuit_Click();
-    mnuExit_Click();
-    EXPECT_EQ(TheNullDesktop.Boxes.at(0).Text, "Are you sure you want to quit the current game?");
-    EXPECT_EQ(TheNullDesktop.Boxes.at(1).Text, "A game is in progress, exit anyway?");
-}
-
-void Pause() {
-    PointAt(UndrawnLines().front());
-    mnuPause_Click();
-    mnuPause_Click();
-}
-
 void ExpectPaused() {
     EXPECT_TRUE(Game.GamePaused && !Game.GameInPlay && Game.MouseDownSeen);
     EXPECT_EQ(EnabledCommands(), Paused);
@@ -141,50 +109,41 @@ void ExpectPaused() {
     AfterSeconds(0, [drawn = Game.LinesDrawn] { EXPECT_GE(Game.LinesDrawn, drawn) << "resumed"; });
 }
 
-void Quit() {
-    TheNullDesktop.Answers = {MessageAnswer::Yes};
-    mnuQuit_Click();
-}
-
-void PauseAndQuit() {
-    mnuPause_Click();
-    Quit();
-}
-
-void Exit() {
-    TheNullDesktop.Answers = {MessageAnswer::Yes};
-    mnuExit_Click();
-}
-
-// A person presses a line that would be refused in a game that goes on.
-void PressAndClose() {
-    PressLine(UndrawnLines().front());
-    Form_Unload();
-}
-
 void ExpectClosed() {
     EXPECT_TRUE(Game.ProgramEnding && TheNullDesktop.Answers.empty());
+    for (const MessageBox& box : TheNullDesktop.Boxes)
+        EXPECT_EQ(box.Text, "A game is in progress, exit anyway?");
 }
 
+// In the wait for a person this line would be refused if the game went on.
+void PointAtFirstLine() {
+    PointAt(UndrawnLines().front());
+}
+
+// What may happen in the middle of a wait, and what must come of it.
+struct Event {
+    const char* Name;
+    void (*ExpectOutcome)();
+    std::deque<MessageAnswer> Answers;
+    std::vector<std::function<void()>> Steps;
+};
+
+const auto Yes = MessageAnswer::Yes;
+const auto No = MessageAnswer::No;
 const Event Events[] = {
-    {"commands out of place", AskWhatIsOutOfPlace, ExpectPlayedToTheEnd},
-    {"a change of mind", ChangeMind, ExpectPlayedToTheEnd},
-    {"midnight", [] { TheNullDesktop.Clock = 1; }, ExpectPlayedToTheEnd},
-    {"two persons",
-     [] {
-         Game.PlayerKind = {{Humanoid, Humanoid}};
-     },
-     ExpectPlayedToTheEnd},
-    {"two computers",
-     [] {
-         Game.PlayerKind = {{ComputerAverage, 4}};
-     },
-     ExpectPlayedToTheEnd},
-    {"Pause", Pause, ExpectPaused},
-    {"Quit", Quit, ExpectGivenUp},
-    {"Pause and Quit", PauseAndQuit, ExpectGivenUp},
-    {"Exit", Exit, ExpectClosed},
-    {"the close box", PressAndClose, ExpectClosed},
+    {"nothing to do", ExpectPlayedToTheEnd, {}, {mnuStart_Click, mnuAuto_Click, mnuDraw_Click}},
+    {"nothing to do either", ExpectPlayedToTheEnd, {}, {mnuExchange_Click, mnuHint_Click}},
+    {"a pause taken back", ExpectPlayedToTheEnd, {}, {mnuPause_Click, mnuStart_Click}},
+    {"No to an end", ExpectPlayedToTheEnd, {No, No}, {mnuQuit_Click, mnuExit_Click}},
+    {"midnight", ExpectPlayedToTheEnd, {}, {[] { TheNullDesktop.Clock = 1; }}},
+    {"a person", ExpectPlayedToTheEnd, {}, {[] { Game.PlayerKind.at(1) = Humanoid; }}},
+    {"a computer", ExpectPlayedToTheEnd, {}, {[] { Game.PlayerKind.at(1) = ComputerAverage; }}},
+    {"a pause", ExpectPaused, {}, {PointAtFirstLine, mnuPause_Click, mnuPause_Click}},
+    {"Quit", ExpectGivenUp, {Yes}, {mnuQuit_Click}},
+    {"Quit after a pause", ExpectGivenUp, {Yes}, {mnuPause_Click, mnuQuit_Click}},
+    {"a failure", ExpectGivenUp, {Yes}, {[] { throw std::out_of_range("a bad index"); }}},
+    {"Exit", ExpectClosed, {Yes}, {mnuExit_Click}},
+    {"closing", ExpectClosed, {}, {PointAtFirstLine, picPlayingField_MouseDown, Form_Unload}},
 };
 
 class TurnLoop : public GameTest {};
@@ -204,13 +163,15 @@ TEST_F(TurnLoop, ObeysInTheMiddleOfEveryWaitAndLosesNoTime) {
                 EXPECT_EQ(enabled, wait.FirstKind == Humanoid ? PersonToMove : ComputerToMove);
                 EXPECT_EQ(Game.LastLine == 0, wait.Drawn.empty());
                 const MainWindowControls controls = frmQuibsMain;
-                event.Happen();
+                TheNullDesktop.Answers = event.Answers;
+                for (const auto& step : event.Steps)
+                    step();
                 if (Game.GamePaused)
                     EXPECT_EQ(EnabledCommands(), PausePending + enabled.back());
                 else
                     EXPECT_EQ(frmQuibsMain, controls);
             });
-            RunCommand(Command::Start);
+            RunGuarded([] { RunCommand(Command::Start); });
             EXPECT_GT(happenedAt, 0);
             EXPECT_LT(TheNullDesktop.SecondsWaited, Game.ProgramEnding ? happenedAt + 0.001 : 60);
             event.ExpectOutcome();
@@ -252,9 +213,9 @@ TEST_F(TurnLoop, TellsTheEndOfAGameAndBlinksForThreeSecondsUndisturbed) {
         Color Fill;
         int ComputerSounds;
         double Seconds; // a computer waits before it takes the box
-    } cases[] = {{ComputerAverage, 1, "The Winner Is:|Colossus", LightRed, 1, 4.25},
+    } cases[] = {{ComputerAverage, 1, "The Winner Is:|Colossus", LightRed, 1, 3.25},
                  {Humanoid, 1, "The Winner Is:|Colossus", LightRed, 0, 3},
-                 {ComputerAverage, 2, "It's A Draw.|", Black, 0, 4.25}};
+                 {ComputerAverage, 2, "It's A Draw.|", Black, 0, 3.25}};
     for (const auto& c : cases) {
         StartFresh();
         Game.PlayerColor.at(1) = LightRed;
@@ -282,22 +243,31 @@ TEST_F(TurnLoop, TellsTheEndOfAGameAndBlinksForThreeSecondsUndisturbed) {
     }
 }
 
-TEST_F(TurnLoop, StartsTwentyGamesDuringBlinksOnOneStackAndEndsDuringOne) {
+TEST_F(TurnLoop, StartsTwentyGamesDuringBlinksOnOneStackAndSurvivesAFailureThere) {
     Game.GridColumns = Game.GridRows = 1;
     std::set<void*> frames;
     int games = 0;
     TheNullDesktop.WhenYielding = [&] {
-        EXPECT_FALSE(Game.ProgramEnding);
         if (!Game.GameOverShown || Game.CommandAfterGameOver)
             return;
         frames.insert(__builtin_frame_address(0));
         RunCommand(++games % 2 == 0 ? Command::Start : Command::Auto);
         if (games == 20)
+            throw std::out_of_range("a bad index");
+    };
+    TheNullDesktop.Answers = {MessageAnswer::Ok};
+    RunGuarded([] { RunCommand(Command::Start); });
+    EXPECT_EQ(games, 20);
+    EXPECT_EQ(frames.size(), 1U);
+    EXPECT_EQ(TheNullDesktop.Boxes.back().Text, "The game had to be ended: a bad index.");
+    ExpectGivenUp();
+    TheNullDesktop.WhenYielding = [] {
+        EXPECT_FALSE(Game.ProgramEnding) << "a blink went on";
+        if (Game.GameOverShown)
             Form_Unload();
     };
     RunCommand(Command::Start);
-    EXPECT_EQ(games, 20);
-    EXPECT_EQ(frames.size(), 1U);
+    EXPECT_TRUE(Game.ProgramEnding);
 }
 
 TEST_F(TurnLoop, TakesExchangeOnlyForAPreparedGame) {
@@ -310,30 +280,11 @@ TEST_F(TurnLoop, TakesExchangeOnlyForAPreparedGame) {
     RunCommand(Command::Exchange);
     EXPECT_EQ(Game.CurrentPlayer, other);
     EXPECT_EQ(Captions(), Game.PlayerName.at(other) + "'s Turn|GAME PAUSED");
-    TheNullDesktop.Answers = {MessageAnswer::Yes};
+    TheNullDesktop.Answers = {Yes};
     RunCommand(Command::Quit);
+    EXPECT_EQ(TheNullDesktop.Boxes.at(0).Text, "Are you sure you want to quit the current game?");
     mnuExchange_Click();
     ExpectGivenUp();
-}
-
-TEST_F(TurnLoop, SurvivesAFailureInPlayAndWhileTheEndIsShown) {
-    for (const double seconds : {0.1, 1.6}) {
-        Prepare(1, ComputerAverage, Humanoid, {1, 2, 3});
-        AfterSeconds(seconds, [] {
-            if (Game.GameOverShown)
-                RunCommand(Command::Start);
-            throw std::out_of_range("a bad index");
-        });
-        TheNullDesktop.Answers = {MessageAnswer::Ok};
-        RunGuarded([] { RunCommand(Command::Start); });
-        ExpectGivenUp();
-        EXPECT_EQ(TheNullDesktop.Boxes.back().Text, "The game had to be ended: a bad index.");
-        LetPersonsPlay(1);
-        const double before = TheNullDesktop.SecondsWaited;
-        RunCommand(Command::Start);
-        ExpectPlayedToTheEnd();
-        EXPECT_GT(TheNullDesktop.SecondsWaited - before, 3);
-    }
 }
 
 } // namespace

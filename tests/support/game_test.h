@@ -7,8 +7,8 @@
 
 #include "support/person.h"
 
-// Whether the board keeps its invariants: side counts, owners, scores and counters agree.
-::testing::AssertionResult BoardIsSound();
+// Whether side counts, owners, scores and counters agree with the lines drawn.
+bool BoardIsSound();
 
 // Sets up a new game of so many boxes and kinds, player 1 to move, as if it were being played.
 void SetUpGame(int columns, int rows, Integer firstKind, Integer secondKind);
