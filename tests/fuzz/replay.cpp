@@ -9,7 +9,7 @@ namespace {
 
 void Run(const std::string& input) {
     try {
-        LLVMFuzzerTestOneInput(reinterpret_cast<const std::uint8_t*>(input.data()), input.size());
+        TryInput(input);
     } catch (...) {
         std::cerr << "A fault with this input:\n" << input << '\n';
         throw;
@@ -18,9 +18,7 @@ void Run(const std::string& input) {
 
 } // namespace
 
-int main(int argc, char** argv) {
-    if (argc != 3)
-        return 2;
+int main(int /*argc*/, char** argv) {
     const std::string sample = BytesOf(argv[2]);
     Require(!sample.empty(), "there is a sample to damage");
     for (const auto& file : std::filesystem::directory_iterator(std::filesystem::absolute(argv[1])))

@@ -1,4 +1,4 @@
-// What every fuzz target is to its fuzzer or its replay.
+// What every fuzz target is to its fuzzer and to its replay.
 #pragma once
 
 #include <cstdint>
@@ -7,16 +7,19 @@
 
 #include "core/game_state.h"
 
-// Does everything with one input. A fault is thrown, or ends the process.
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size);
+// Does everything with one input; throws where it is harmed.
+void TryInput(const std::string& input);
+
+// The name by which a fuzzer calls it.
+extern "C" [[gnu::used]] inline int LLVMFuzzerTestOneInput(const std::uint8_t* data,
+                                                           std::size_t size) {
+    TryInput({reinterpret_cast<const char*>(data), size});
+    return 0;
+}
 
 inline void Require(bool condition, const char* demand) {
     if (!condition)
         throw std::logic_error(demand);
-}
-
-inline std::string AsText(const std::uint8_t* data, std::size_t size) {
-    return {reinterpret_cast<const char*>(data), size};
 }
 
 // Whether a file gives the names back as they were written: a comma, a blank in front and a

@@ -65,8 +65,7 @@ void DrawRandomPosition(std::uint32_t seed) {
     const bool hasOpening = chance() % 4 != 0;
     if (hasOpening)
         DrawSafeLines();
-    const std::size_t most = UndrawnLines().size();
-    for (std::size_t left = chance() % (hasOpening ? 4 : most); left > 0; --left) {
+    for (auto left = chance() % (hasOpening ? 4 : UndrawnLines().size()); left > 0; --left) {
         const std::vector<int> lines = UndrawnLines();
         if (!lines.empty())
             DrawForNobody({lines.at(chance() % lines.size())});

@@ -1,10 +1,9 @@
-// What every headless test starts from: a fresh program on the null desktop, and boards.
+// What every headless test starts from: a fresh program in an empty directory, and boards.
 #pragma once
 
 #include <gtest/gtest.h>
 
-#include <vector>
-
+#include "support/files.h"
 #include "support/person.h"
 
 // Whether side counts, owners, scores and counters agree with the lines drawn.
@@ -22,4 +21,6 @@ void DrawRandomPosition(std::uint32_t seed);
 class GameTest : public ::testing::Test {
 protected:
     void SetUp() override { StartFresh(); }
+
+    const TestDirectory Directory;
 };

@@ -53,15 +53,13 @@ void LetPersonsPlay(std::uint32_t seed) {
 }
 
 bool UseGameBriefly() {
-    constexpr int mostYields = 40;
-    int yields = 0;
     bool isWhole = false;
     LetPersonsPlay(1);
-    TheNullDesktop.WhenYielding = [&] {
+    TheNullDesktop.WhenYielding = [&isWhole] {
         isWhole = TablesMatchField();
-        if (++yields % 8 == 0)
+        if (TheNullDesktop.Yields % 8 == 0)
             RunGuarded(Form_Resize);
-        if (yields >= mostYields)
+        if (TheNullDesktop.Yields % 40 == 0)
             Game.QuitRequested = Game.GameInPlay;
     };
     RunGuarded(Form_Resize);
@@ -71,7 +69,6 @@ bool UseGameBriefly() {
         // Without a pause this begins a new game, which heals everything.
         Game.GamePaused = Game.GamePaused && !isNew;
         isWhole = false;
-        yields = 0;
         RunGuarded([] { RunCommand(Command::Start); });
     }
     TheNullDesktop.WhenYielding = nullptr;
