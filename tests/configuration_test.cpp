@@ -13,8 +13,7 @@ TEST_F(Configuration, IsWrittenByExitAloneAndOnlyAfterAChange) {
     RunCommand(Command::Exit);
     EXPECT_TRUE(Game.ProgramEnding && !std::filesystem::exists(File));
     Game.ProgramEnding = false;
-    RunCommand(Command::Sound);
-    RunCommand(Command::Sound);
+    Game.SettingsChanged = true;
     Form_Unload();
     EXPECT_FALSE(std::filesystem::exists(File));
     Game.ProgramEnding = false;

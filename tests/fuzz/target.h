@@ -22,8 +22,7 @@ inline void Require(bool condition, const char* demand) {
         throw std::logic_error(demand);
 }
 
-// Whether a file gives the names back as they were written: a comma, a blank in front and a
-// quotation mark there do not survive.
+// A comma, and a blank or a quotation mark in front, do not survive in a file.
 inline bool NamesReadBackAsWritten() {
     const auto survives = [](const std::string& name) {
         return name.find(',') == std::string::npos && name.find_first_of(" \"") != 0;

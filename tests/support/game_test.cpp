@@ -8,8 +8,7 @@
 
 namespace {
 
-// Counts everything anew that follows from the lines drawn. A box without an owner goes to
-// player 1.
+// Counts anew what follows from the lines drawn. A new complete box goes to player 1.
 void Recount(GameState& game) {
     game.Lines.at(0) = Line{};
     game.Boxes.at(0) = Box{};
