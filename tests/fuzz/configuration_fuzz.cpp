@@ -5,8 +5,7 @@
 #include "support/person.h"
 
 void TryInput(const std::string& input) {
-    static const TestDirectory directory;
-    std::filesystem::remove("QUIBLNK.CFG");
+    const TestDirectory directory;
     StartFresh();
     const GameState builtIn = Game;
     GameState silent = builtIn;

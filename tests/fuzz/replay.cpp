@@ -21,7 +21,7 @@ void Run(const std::string& input) {
 int main(int /*argc*/, char** argv) {
     const std::string sample = BytesOf(argv[2]);
     Require(!sample.empty(), "there is a sample to damage");
-    for (const auto& file : std::filesystem::directory_iterator(std::filesystem::absolute(argv[1])))
+    for (const auto& file : std::filesystem::directory_iterator(argv[1]))
         Run(BytesOf(file.path()));
     for (std::size_t place = 0; place < sample.size(); ++place) {
         const std::string start = sample.substr(0, place);

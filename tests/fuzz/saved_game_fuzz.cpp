@@ -9,8 +9,7 @@
 #include "ui/commands.h"
 
 void TryInput(const std::string& input) {
-    static const TestDirectory directory;
-    std::filesystem::remove("saved.qbs");
+    const TestDirectory directory;
     StartFresh();
     TheNullDesktop.Answers.assign(9, MessageAnswer::Yes);
     PutBytes("given.qbs", input);
