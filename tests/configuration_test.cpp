@@ -21,8 +21,14 @@ TEST_F(Configuration, IsWrittenByExitAloneAndOnlyAfterAChange) {
     EXPECT_EQ(BytesOf(File), BytesOf(Samples + "built_in.cfg"));
 }
 
-TEST_F(Configuration, LastsFromRunToRunByteForByte) {
-    std::filesystem::copy(Samples + "changed.cfg", File);
+TEST_F(Configuration, IsTakenWholeOrNotAtAllAndLastsByteForByte) {
+    EXPECT_TRUE(Game.SoundOn && StateOf(Command::Sound).Checked) << "without a file";
+    const GameState builtIn = Game;
+    PutBytes(File, "1,2,3,4,5,6,7,a,1,8,b,2,"); // all but the last value
+    StartFresh();
+    EXPECT_TRUE(Game == builtIn);
+
+    PutBytes(File, BytesOf(Samples + "changed.cfg"));
     StartFresh();
     EXPECT_EQ(Game.PlayerName, (PerPlayer<std::string>{{"Mar\u00eda", "\u03a9mega"}}));
     EXPECT_EQ(Game.PlayerKind, (PerPlayer<Integer>{{Humanoid, ComputerCheat}}));

@@ -16,7 +16,6 @@ namespace {
 
 const std::string OneBox = QUIBLINK_TESTS "/samples/one_box.qbs";
 const std::string TwoBoxes = QUIBLINK_TESTS "/samples/two_boxes.qbs";
-const std::string Corpus = QUIBLINK_TESTS "/fuzz/corpus/saved_game/";
 
 class SavedGame : public GameTest {
 protected:
@@ -170,7 +169,7 @@ TEST_F(SavedGame, WithAValueThatCannotBeEndsSilently) {
 TEST_F(SavedGame, IsReadFromAnyLineEndsCommasAndQuotes) {
     const auto load = [](const std::string& name) {
         StartFresh();
-        LoadGame(Corpus + name);
+        LoadGame(QUIBLINK_TESTS "/fuzz/corpus/saved_game/" + name);
         EXPECT_TRUE(Game.GamePaused) << name;
         return Game;
     };

@@ -11,10 +11,8 @@
 // settings of the current directory.
 void StartFresh();
 
-// Moves the pointer to the middle of a line.
+// Moves the pointer to the middle of a line, and presses there.
 void PointAt(int line);
-
-// Points at a line and presses there.
 void PressLine(int line);
 
 std::vector<int> UndrawnLines();
