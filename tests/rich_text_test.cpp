@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include "support/files.h"
-
 namespace {
 
 std::string TextOf(const RichParagraph& paragraph) {
@@ -99,15 +97,4 @@ TEST(RichText, BombsStayWithinBounds) {
     EXPECT_LE(ReadRichText("{\\rtf1" + paragraphs + "}").size(), 5000u);
     const RichText wide = ReadRichText("{\\rtf1" + cells + "\\row}");
     EXPECT_EQ(std::get<RichTable>(wide.at(0)).Rows.at(0).Cells.size(), 32u);
-}
-
-TEST(RichText, SurvivesEveryPrefixAndEveryChangedByte) {
-    const std::string sample =
-        "{\\rtf1{\\colortbl;\\red9;}\\uc1\\u8364?\\'e9{\\b\\cf1 a}\\par{\\*\\x y}"
-        "\\trowd\\cellx9\\intbl b\\cell\\row\\pard\\fi-9 c\\par}";
-    ASSERT_EQ(Read(sample), "\u20AC\u00E9a|[b|;]c|");
-    const auto isHarmless = [&](const std::string& damaged) {
-        return Read(damaged).size() <= 3 * sample.size();
-    };
-    EXPECT_EQ(FirstHarmfulDamage(sample, isHarmless), "");
 }

@@ -40,21 +40,3 @@ public:
 private:
     std::filesystem::path Before = std::filesystem::current_path();
 };
-
-// Cuts `sample` short at every place and puts every byte in every place. Tells the first result
-// that `isHarmless` refuses, "" when there is none.
-template <class Predicate>
-std::string FirstHarmfulDamage(const std::string& sample, Predicate isHarmless) {
-    for (std::size_t place = 0; place < sample.size(); ++place) {
-        std::string damaged = sample.substr(0, place);
-        if (!isHarmless(damaged))
-            return damaged;
-        damaged = sample;
-        for (int byte = 0; byte < 256; ++byte) {
-            damaged.at(place) = static_cast<char>(byte);
-            if (!isHarmless(damaged))
-                return damaged;
-        }
-    }
-    return "";
-}

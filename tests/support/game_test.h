@@ -1,18 +1,13 @@
-// What every headless test starts from: a fresh game on the null desktop.
+// What every headless test starts from: a fresh program in an empty directory, and boards.
 #pragma once
 
 #include <gtest/gtest.h>
 
-#include <vector>
+#include "support/files.h"
+#include "support/person.h"
 
-#include "core/game_state.h"
-#include "platform/null/null_desktop.h"
-
-// Whether the board keeps its invariants: side counts, owners, scores and counters agree.
-::testing::AssertionResult BoardIsSound();
-
-// Takes settings, desktop and controls back to a fresh start-up with a fixed seed and no files.
-void StartFresh();
+// Whether side counts, owners, scores and counters agree with the lines drawn.
+bool BoardIsSound();
 
 // Sets up a new game of so many boxes and kinds, player 1 to move, as if it were being played.
 void SetUpGame(int columns, int rows, Integer firstKind, Integer secondKind);
@@ -20,7 +15,12 @@ void SetUpGame(int columns, int rows, Integer firstKind, Integer secondKind);
 // Draws lines for nobody: sides count, complete boxes go to player 1.
 void DrawForNobody(const std::vector<int>& lines);
 
+// Draws random lines for nobody: any at all, or mostly an opening that leaves chains and loops.
+void DrawRandomPosition(std::uint32_t seed);
+
 class GameTest : public ::testing::Test {
 protected:
     void SetUp() override { StartFresh(); }
+
+    const TestDirectory Directory;
 };

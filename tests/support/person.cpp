@@ -1,56 +1,76 @@
 #include "support/person.h"
 
-#include <memory>
 #include <random>
 #include <stdexcept>
 
 #include "core/random.h"
-#include "display/safe_lines.h"
-#include "support/game_test.h"
+#include "display/field.h"
+#include "storage/value_file.h"
 #include "ui/commands.h"
 
+void StartFresh() {
+    Game = GameState{};
+    frmQuibsMain = MainWindowControls{};
+    CloseChannel();
+    ResetNullDesktop();
+    Form_Load();
+    SeedRandom(1);
+}
+
 void PointAt(int line) {
-    const Line& target = Game.Lines.at(line);
-    const bool isVertical = line > Game.HorizontalLineCount;
-    picPlayingField_MouseMove(
-        static_cast<float>(target.X + (isVertical ? 0 : Game.PointSpacingX / 2)),
-        static_cast<float>(target.Y + (isVertical ? Game.PointSpacingY / 2 : 0)));
+    RunGuarded([line] {
+        const Line& target = Game.Lines.at(line);
+        const bool isVertical = line > Game.HorizontalLineCount;
+        picPlayingField_MouseMove(
+            static_cast<float>(target.X + (isVertical ? 0 : Game.PointSpacingX / 2)),
+            static_cast<float>(target.Y + (isVertical ? Game.PointSpacingY / 2 : 0)));
+    });
 }
 
 void PressLine(int line) {
     PointAt(line);
-    picPlayingField_MouseDown();
+    RunGuarded(picPlayingField_MouseDown);
 }
 
 std::vector<int> UndrawnLines() {
     std::vector<int> lines;
-    for (int line = 1; line <= Game.LineCount; ++line)
+    for (std::size_t line = 1; line < Game.Lines.size(); ++line)
         if (Game.Lines.at(line).Drawn == 0)
-            lines.push_back(line);
+            lines.push_back(static_cast<int>(line));
     return lines;
 }
 
 void LetPersonsPlay(std::uint32_t seed) {
-    TheNullDesktop.WhenIdle = [chance = std::make_shared<std::mt19937>(seed),
-                               presses = 0]() mutable {
-        if (++presses > 10'000)
+    TheNullDesktop.WhenIdle = [chance = std::minstd_rand(seed)]() mutable {
+        if (TheNullDesktop.Yields > 100'000)
             throw std::logic_error("the game takes no line of a person");
-        TheNullDesktop.Answers = {MessageAnswer::Ok};
+        TheNullDesktop.Answers.assign(9, MessageAnswer::Yes);
+        RunGuarded([] { RunCommand(Command::Hint); });
         const std::vector<int> lines = UndrawnLines();
-        PressLine(lines.at((*chance)() % lines.size()));
+        if (!lines.empty())
+            PressLine(lines.at(chance() % lines.size()));
     };
 }
 
-void DrawRandomPosition(std::uint32_t seed) {
-    std::mt19937 chance(seed);
-    SeedRandom(seed);
-    const bool hasOpening = chance() % 4 != 0;
-    if (hasOpening)
-        DrawSafeLines();
-    const std::size_t most = UndrawnLines().size();
-    for (std::size_t left = chance() % (hasOpening ? 4 : most); left > 0; --left) {
-        const std::vector<int> lines = UndrawnLines();
-        if (!lines.empty())
-            DrawForNobody({lines.at(chance() % lines.size())});
+bool UseGameBriefly() {
+    bool isWhole = false;
+    LetPersonsPlay(1);
+    TheNullDesktop.WhenYielding = [&isWhole] {
+        isWhole = TablesMatchField();
+        if (TheNullDesktop.Yields % 8 == 0)
+            RunGuarded(Form_Resize);
+        if (TheNullDesktop.Yields % 40 == 0)
+            Game.QuitRequested = Game.GameInPlay;
+    };
+    RunGuarded(Form_Resize);
+    for (const int line : UndrawnLines())
+        PressLine(line);
+    for (const bool isNew : {false, true}) {
+        // Without a pause this begins a new game, which heals everything.
+        Game.GamePaused = Game.GamePaused && !isNew;
+        isWhole = false;
+        RunGuarded([] { RunCommand(Command::Start); });
     }
+    TheNullDesktop.WhenYielding = nullptr;
+    return isWhole && !Game.GameInPlay;
 }

@@ -1,22 +1,26 @@
-// A person at the pointer, and boards in the middle of a game, for the stories of the tests.
+// A fresh program and a person who uses it, for the stories of the tests and for the fuzzers.
 #pragma once
 
 #include <cstdint>
 #include <vector>
 
 #include "core/game_state.h"
+#include "platform/null/null_desktop.h"
 
-// Moves the pointer to the middle of a line.
+// Takes the program, its controls and the desktop back to a start with a fixed seed and with the
+// settings of the current directory.
+void StartFresh();
+
+// Moves the pointer to the middle of a line, and presses there.
 void PointAt(int line);
-
-// Points at a line and presses there.
 void PressLine(int line);
 
 std::vector<int> UndrawnLines();
 
-// From now on persons draw random lines whenever the game waits for them, and close the box that
-// refuses one.
+// From now on persons ask for a hint and draw a random line whenever the game waits for them, and
+// say Yes to every box.
 void LetPersonsPlay(std::uint32_t seed);
 
-// Draws random lines for nobody: any at all, or mostly an opening that leaves chains and loops.
-void DrawRandomPosition(std::uint32_t seed);
+// Resizes, presses, and plays for some dozens of yields, whatever a file has left of the game; then
+// does it again with a new game. Tells whether that was whole and no game is left running.
+bool UseGameBriefly();
