@@ -8,25 +8,43 @@
 
 namespace {
 
-constexpr int ToTheEnd = 1 << 20; // choices looked at
+constexpr int All = std::numeric_limits<int>::max(); // choices followed
 
-// A step is a position set up, worth about a microsecond. Up to twenty runs half the steps to the
-// end have sufficed for every pair of kinds. With more runs a search of some choices ahead wins as
-// many boxes and games as one to the end, in a third of the time.
-constexpr std::size_t MostRunsToTheEnd = 20;
-constexpr long StepsToTheEnd = 250'000;
-constexpr long StepsAhead = 100'000;
+// A step is a position set up, worth about half a microsecond. Up to twenty runs a third of the
+// steps has sufficed to follow everything, for every pair of kinds.
+constexpr std::size_t MostRunsForEverything = 24;
+constexpr long Steps = 400'000;
+constexpr long StepsOnceEverythingWasTooMuch = 100'000;
 constexpr long StepsBetweenYields = 4'000;
 
-std::uint64_t MemoryCode(std::uint64_t positionCode, int player, int ahead) {
+std::uint64_t MemoryCode(std::uint64_t positionCode, int player, int width) {
     constexpr std::uint64_t playerFactor = 0x9E3779B97F4A7C15U;
-    constexpr std::uint64_t aheadFactor = 0xD1B54A32D192ED03U;
-    return positionCode ^ (playerFactor * (player + 1)) ^ (aheadFactor * ahead);
+    constexpr std::uint64_t widthFactor = 0xD1B54A32D192ED03U;
+    return positionCode ^ (playerFactor * (player + 1)) ^ (widthFactor * width);
 }
 
 // What a decliner leaves of a run that was given to him.
 int BoxesDeclined(const Run& run) {
     return run.IsRing() ? 4 : 2;
+}
+
+void KeepSmallest(std::vector<Choice>& choices) {
+    int smallest = All;
+    for (const Choice& choice : choices)
+        smallest = std::min(smallest, choice.Boxes);
+    std::erase_if(choices, [=](const Choice& choice) { return choice.Boxes > smallest; });
+}
+
+// Keeps `count` choices: first one of each size from the smallest on, then a second one, and so on.
+void KeepMostDifferent(std::vector<Choice>& choices, int count) {
+    std::stable_sort(choices.begin(), choices.end(),
+                     [](const Choice& a, const Choice& b) { return a.Boxes < b.Boxes; });
+    for (std::size_t i = 1; i < choices.size(); ++i)
+        if (choices.at(i).Boxes == choices.at(i - 1).Boxes)
+            choices.at(i).RankInSize = choices.at(i - 1).RankInSize + 1;
+    std::stable_sort(choices.begin(), choices.end(),
+                     [](const Choice& a, const Choice& b) { return a.RankInSize < b.RankInSize; });
+    choices.resize(count);
 }
 
 } // namespace
@@ -55,96 +73,77 @@ std::vector<double> GiveawaySearch::Judge(const std::vector<Run>& runs,
         chosen.push_back(places.at(candidate));
 
     StepsToYield = StepsBetweenYields;
-    if (runs.size() <= MostRunsToTheEnd) {
-        StepsLeft = StepsToTheEnd;
+    StepsLeft = Steps;
+    if (runs.size() <= MostRunsForEverything) {
         try {
-            return JudgeAhead(chosen, ToTheEnd);
+            return JudgeEach(chosen, All);
         } catch (const Interruption&) {
+            StepsLeft = StepsOnceEverythingWasTooMuch;
         }
     }
-    StepsLeft = StepsAhead;
-    return JudgeFurtherAndFurther(chosen);
+    return JudgeWiderAndWider(chosen);
 }
 
-// As many choices ahead as the steps allow.
-std::vector<double>
-GiveawaySearch::JudgeFurtherAndFurther(const std::vector<RunPlace>& candidates) {
+// Follows as many choices of each turn as the steps allow.
+std::vector<double> GiveawaySearch::JudgeWiderAndWider(const std::vector<RunPlace>& candidates) {
     // Something is known even if nothing is judged: the smaller, the better.
     std::vector<double> margins;
     for (const RunPlace& place : candidates)
         margins.push_back(-Catalogue.At(place.Piece).Giveaways.at(place.Position).Boxes);
     try {
-        for (int ahead = 0; !Game.ProgramEnding && !Game.QuitRequested; ++ahead)
-            margins = JudgeAhead(candidates, ahead);
+        LeavesOut = true;
+        for (int width = 1; LeavesOut && !Game.ProgramEnding && !Game.QuitRequested; width *= 2)
+            margins = JudgeEach(candidates, width);
     } catch (const Interruption&) {
     }
     return margins;
 }
 
-std::vector<double> GiveawaySearch::JudgeAhead(const std::vector<RunPlace>& candidates, int ahead) {
+std::vector<double> GiveawaySearch::JudgeEach(const std::vector<RunPlace>& candidates, int width) {
+    Width = width;
+    LeavesOut = false;
     std::vector<double> margins;
     for (const RunPlace& place : candidates)
-        margins.push_back(ValueOfGiveaway({0, 0, ahead}, place));
+        margins.push_back(ValueOfGiveaway({0, 0}, place));
     return margins;
 }
 
 double GiveawaySearch::ValueOf(const Turn& turn) {
-    if (turn.Ahead == 0)
-        return ValueOfFirstSmallest(turn);
-    return KindOf(turn) == ComputerAverage ? MeanOfSmallest(turn) : BestOfAll(turn);
-}
-
-int GiveawaySearch::SmallestSize(const Turn& turn) {
-    int smallest = std::numeric_limits<int>::max();
-    for (const Position::Share& share : Levels.at(turn.Level).Shares)
-        smallest = std::min(smallest, Catalogue.At(share.Piece).Smallest);
-    return smallest;
-}
-
-double GiveawaySearch::ValueOfFirstSmallest(const Turn& turn) {
-    const int smallest = SmallestSize(turn);
-    for (const Position::Share& share : Levels.at(turn.Level).Shares) {
-        const Piece& piece = Catalogue.At(share.Piece);
-        for (int run = 0; run < piece.RunCount(); ++run)
-            if (piece.Giveaways.at(run).Boxes == smallest)
-                return ValueOfOpening(turn, {share.Piece, run}, true);
-    }
-    return 0;
-}
-
-double GiveawaySearch::MeanOfSmallest(const Turn& turn) {
-    const int smallest = SmallestSize(turn);
+    double best = std::numeric_limits<double>::lowest();
     double sum = 0;
     int count = 0;
-    for (const Position::Share& share : Levels.at(turn.Level).Shares) {
-        const Piece& piece = Catalogue.At(share.Piece);
-        for (int run = 0; run < piece.RunCount(); ++run) {
-            if (piece.Giveaways.at(run).Boxes != smallest)
-                continue;
-            sum += share.Count * ValueOfGiveaway(turn, {share.Piece, run});
-            count += share.Count;
-        }
+    for (const Choice& choice : ChoicesOf(turn)) {
+        const double value = ValueOfGiveaway(turn, choice.Place);
+        best = std::max(best, value);
+        sum += choice.Count * value;
+        count += choice.Count;
     }
-    return sum / count;
+    return KindOf(turn) == ComputerAverage ? sum / count : best;
 }
 
-double GiveawaySearch::BestOfAll(const Turn& turn) {
-    double best = std::numeric_limits<double>::lowest();
+// The choices that are followed.
+std::vector<Choice> GiveawaySearch::ChoicesOf(const Turn& turn) {
+    std::vector<Choice> choices;
     for (const Position::Share& share : Levels.at(turn.Level).Shares) {
         const Piece& piece = Catalogue.At(share.Piece);
-        if (IsDominated(turn, piece))
-            continue;
-        for (int run = 0; run < piece.RunCount(); ++run)
-            best = std::max(best, ValueOfGiveaway(turn, {share.Piece, run}));
+        if (!IsDominated(turn, piece))
+            for (int run = 0; run < piece.RunCount(); ++run)
+                choices.push_back({piece.Giveaways.at(run).Boxes, {share.Piece, run}, share.Count});
     }
-    return best;
+    if (KindOf(turn) == ComputerAverage)
+        KeepSmallest(choices);
+    if (static_cast<std::size_t>(Width) < choices.size()) {
+        KeepMostDifferent(choices, Width);
+        LeavesOut = true;
+    }
+    return choices;
 }
 
 // Of lone runs that are played in the same way only the smallest can be best, provided that the
 // opponent chooses for the best too: whatever is possible with one is possible with the other.
 bool GiveawaySearch::IsDominated(const Turn& turn, const Piece& piece) {
-    const bool isCertain = OpponentKindOf(turn) != ComputerAverage;
-    if (piece.RunCount() > 1 || (turn.Ahead == ToTheEnd && !isCertain))
+    if (piece.RunCount() > 1 || KindOf(turn) == ComputerAverage ||
+        OpponentKindOf(turn) == ComputerAverage)
         return false;
     const std::vector<Position::Share>& shares = Levels.at(turn.Level).Shares;
     return std::any_of(shares.begin(), shares.end(), [&](const Position::Share& share) {
@@ -224,17 +223,11 @@ bool GiveawaySearch::EndsTheGame(const Turn& turn, RunPlace place) {
 double GiveawaySearch::ValueAfter(const Turn& turn, RunPlace place, int nextPlayer) {
     if (EndsTheGame(turn, place))
         return 0;
-    Turn next{turn.Level + 1, nextPlayer, turn.Ahead};
-    if (turn.Ahead > 0 && turn.Ahead < ToTheEnd && KindOf(turn) != ComputerAverage)
-        --next.Ahead;
-    const std::uint64_t code = CodeAfter(turn, place);
-    if (const double* known = Values.Find(MemoryCode(code, nextPlayer, ToTheEnd)))
-        return *known;
-    const std::uint64_t memoryCode = MemoryCode(code, nextPlayer, next.Ahead);
+    const std::uint64_t memoryCode = MemoryCode(CodeAfter(turn, place), nextPlayer, Width);
     if (const double* known = Values.Find(memoryCode))
         return *known;
     SetUpAfter(turn, place);
-    const double value = ValueOf(next);
+    const double value = ValueOf({turn.Level + 1, nextPlayer});
     Values.Store(memoryCode, value);
     return value;
 }

@@ -23,14 +23,22 @@ struct Position {
     std::uint64_t Code = 0;
 };
 
+// A row to give away.
+struct Choice {
+    int Boxes = 0;
+    RunPlace Place;
+    int Count = 0;      // so many rows are alike
+    int RankInSize = 0; // among the choices of as many boxes, from 0
+};
+
 class GiveawaySearch {
 public:
     // For a player of kind `mover`, one of the stronger computers, who must give away.
     GiveawaySearch(int mover, int opponent);
 
     // The margin still to come for each of the `candidates`, positions in `runs`, when its row is
-    // the choice. It is followed to the end of the game if the steps suffice, else guessed some
-    // turns ahead. Yields in between; once the game is to end the margins mean little.
+    // the choice. Every way to the end of the game is followed if the steps suffice, else the most
+    // different ones. Yields in between; once the game is to end the margins mean little.
     std::vector<double> Judge(const std::vector<Run>& runs, const std::vector<int>& candidates);
 
 private:
@@ -41,21 +49,17 @@ private:
     struct Turn {
         int Level = 0;  // its position stands in Levels
         int Player = 0; // 0 = the one the search is for, 1 = the opponent
-        int Ahead = 0;  // choices still looked at; behind them the smallest giveaway is assumed
     };
 
     int KindOf(const Turn& turn) const { return Kinds.at(turn.Player); }
     int OpponentKindOf(const Turn& turn) const { return Kinds.at(1 - turn.Player); }
 
-    std::vector<double> JudgeFurtherAndFurther(const std::vector<RunPlace>& candidates);
-    std::vector<double> JudgeAhead(const std::vector<RunPlace>& candidates, int ahead);
+    std::vector<double> JudgeWiderAndWider(const std::vector<RunPlace>& candidates);
+    std::vector<double> JudgeEach(const std::vector<RunPlace>& candidates, int width);
     double ValueOf(const Turn& turn);
-    double ValueOfFirstSmallest(const Turn& turn);
-    double MeanOfSmallest(const Turn& turn);
-    double BestOfAll(const Turn& turn);
+    std::vector<Choice> ChoicesOf(const Turn& turn);
     bool IsDominated(const Turn& turn, const Piece& piece);
     bool ArePlayedAlike(const Run& smaller, const Run& larger) const;
-    int SmallestSize(const Turn& turn);
 
     double ValueOfGiveaway(const Turn& turn, RunPlace place);
     double ValueOfAnyLine(const Turn& turn, RunPlace place);
@@ -67,6 +71,8 @@ private:
     void CountSteps(long steps);
 
     std::array<int, 2> Kinds;
+    int Width = 0;          // the most choices of a turn that are followed
+    bool LeavesOut = false; // some turn had more of them
     PieceCatalogue Catalogue;
     std::deque<Position> Levels;
     ValueMemory Values;
