@@ -42,24 +42,6 @@ TEST_F(MoveSelection, TakesAnySafeLineAlikeAndNeverARiskyOneBeside) {
     EXPECT_EQ(counts.count(4) + counts.count(7), 2U);
 }
 
-TEST_F(MoveSelection, TakesTheWholeRunFromTheLowestBoxWithAPauseBeforeAndAfterEachLine) {
-    for (const Integer kind : {ComputerAverage, ComputerIntelligent}) {
-        SetUpGame(3, 2, kind, Humanoid);
-        DrawForNobody({4, 5, 6, 7, 8, 9, 11, 1, 3, 10}); // boxes 1 and 4 can be taken
-        ResetNullDesktop();
-        ChooseComputerMove();
-        EXPECT_EQ(Game.ChosenLine, 12);
-        EXPECT_NEAR(TheNullDesktop.SecondsWaited, 0.25, 0.02);
-        DrawForNobody({12});
-        Game.ChosenLine = 0;
-        ChooseComputerMove();
-        EXPECT_EQ(Game.ChosenLine, 17) << "13 and 15 are drawn, the caller draws the last";
-        EXPECT_NE(Game.Lines.at(13).Drawn * Game.Lines.at(15).Drawn, 0);
-        EXPECT_EQ(Game.LinesDrawn, 13);
-        EXPECT_NEAR(TheNullDesktop.SecondsWaited, 1.0, 0.05);
-    }
-}
-
 TEST_F(MoveSelection, GivesAwayTheFewestBoxesAndTwoByTheLineBetweenThemIfStrong) {
     const struct {
         int Columns, Rows;
