@@ -76,7 +76,9 @@ std::vector<double> GiveawaySearch::Judge(const std::vector<Run>& runs,
     StepsLeft = Steps;
     if (runs.size() <= MostRunsForEverything) {
         try {
-            return JudgeEach(chosen, All);
+            std::vector<double> margins;
+            JudgeEach(chosen, All, margins);
+            return margins;
         } catch (const Interruption&) {
             StepsLeft = StepsOnceEverythingWasTooMuch;
         }
@@ -84,28 +86,30 @@ std::vector<double> GiveawaySearch::Judge(const std::vector<Run>& runs,
     return JudgeWiderAndWider(chosen);
 }
 
-// Follows as many choices of each turn as the steps allow.
+// Follows as many choices of each turn as the steps allow. On the largest fields they may not even
+// suffice for one choice of each turn behind every candidate: the first ones, which are the
+// smallest, must do.
 std::vector<double> GiveawaySearch::JudgeWiderAndWider(const std::vector<RunPlace>& candidates) {
-    // Something is known even if nothing is judged: the smaller, the better.
     std::vector<double> margins;
-    for (const RunPlace& place : candidates)
-        margins.push_back(-Catalogue.At(place.Piece).Giveaways.at(place.Position).Boxes);
     try {
-        LeavesOut = true;
-        for (int width = 1; LeavesOut && !Game.ProgramEnding && !Game.QuitRequested; width *= 2)
-            margins = JudgeEach(candidates, width);
+        JudgeEach(candidates, 1, margins);
+        for (int width = 2; LeavesOut; width *= 2) {
+            std::vector<double> wider;
+            JudgeEach(candidates, width, wider);
+            margins = wider;
+        }
     } catch (const Interruption&) {
+        margins.resize(candidates.size(), std::numeric_limits<double>::lowest());
     }
     return margins;
 }
 
-std::vector<double> GiveawaySearch::JudgeEach(const std::vector<RunPlace>& candidates, int width) {
+void GiveawaySearch::JudgeEach(const std::vector<RunPlace>& candidates, int width,
+                               std::vector<double>& margins) {
     Width = width;
     LeavesOut = false;
-    std::vector<double> margins;
     for (const RunPlace& place : candidates)
         margins.push_back(ValueOfGiveaway({0, 0}, place));
-    return margins;
 }
 
 double GiveawaySearch::ValueOf(const Turn& turn) {

@@ -55,7 +55,8 @@ private:
     int OpponentKindOf(const Turn& turn) const { return Kinds.at(1 - turn.Player); }
 
     std::vector<double> JudgeWiderAndWider(const std::vector<RunPlace>& candidates);
-    std::vector<double> JudgeEach(const std::vector<RunPlace>& candidates, int width);
+    void JudgeEach(const std::vector<RunPlace>& candidates, int width,
+                   std::vector<double>& margins);
     double ValueOf(const Turn& turn);
     std::vector<Choice> ChoicesOf(const Turn& turn);
     bool IsDominated(const Turn& turn, const Piece& piece);
