@@ -41,36 +41,30 @@ public:
 
     bool IsOpeningOver(LineSet drawn) const {
         int boxes = 0;
-        for (int line = 0; line < LineCount(); ++line)
-            if ((drawn & Bit(line)) == 0 && IsSafe(drawn, line))
+        for (const int line : OpenLines(drawn))
+            if (IsSafe(drawn, line))
                 return false;
         return TakeAll(drawn, boxes) == 0 && std::popcount(drawn) < LineCount();
     }
 
     // Kind 1 has only the smallest rows.
     std::vector<OracleRow> Rows(LineSet drawn, int kind, int otherKind) {
-        std::vector<OracleRow> rows;
         std::map<LineSet, int> sizes; // a row is known by its lines
-        for (int line = 0; line < LineCount(); ++line) {
-            if ((drawn & Bit(line)) != 0)
-                continue;
+        int smallest = 1000;
+        for (const int line : OpenLines(drawn)) {
             int boxes = 0;
             const LineSet taken = TakeAll(drawn | Bit(line), boxes);
             sizes[taken | Bit(line)] = boxes;
+            smallest = std::min(smallest, boxes);
         }
-        int smallest = 1000;
-        for (const auto& [row, size] : sizes)
-            smallest = std::min(smallest, size);
+        std::vector<OracleRow> rows;
         for (const auto& [row, size] : sizes) {
             if (kind == 1 && size != smallest)
                 continue;
             double sum = 0;
             int count = 0;
-            for (int line = 0; line < LineCount(); ++line) {
-                const auto [first, second] = BoxesOfLine.at(line);
-                const bool isBetween = first >= 0 && second >= 0 && Sides(drawn, first) == 2 &&
-                                       Sides(drawn, second) == 2;
-                if ((row & Bit(line)) == 0 || (kind > 1 && size == 2 && !isBetween))
+            for (const int line : OpenLines(~row)) {
+                if (kind > 1 && size == 2 && !IsBetweenGivenBoxes(drawn, line))
                     continue;
                 sum += ValueAfter(drawn, line, {kind, otherKind});
                 ++count;
@@ -86,6 +80,19 @@ private:
     static LineSet Bit(int line) { return LineSet{1} << line; }
 
     int Sides(LineSet drawn, int box) const { return std::popcount(drawn & SidesOfBox.at(box)); }
+
+    std::vector<int> OpenLines(LineSet drawn) const {
+        std::vector<int> lines;
+        for (int line = 0; line < LineCount(); ++line)
+            if ((drawn & Bit(line)) == 0)
+                lines.push_back(line);
+        return lines;
+    }
+
+    bool IsBetweenGivenBoxes(LineSet drawn, int line) const {
+        const auto [first, second] = BoxesOfLine.at(line);
+        return first >= 0 && second >= 0 && Sides(drawn, first) == 2 && Sides(drawn, second) == 2;
+    }
 
     // Of a box with one.
     int OpenSide(LineSet drawn, int box) const {
@@ -181,9 +188,7 @@ private:
         int boxes = 0;
         const LineSet given = TakeAll(drawn, boxes);
         double best = -1000;
-        for (int line = 0; line < LineCount(); ++line) {
-            if ((given & Bit(line)) == 0)
-                continue;
+        for (const int line : OpenLines(~given)) {
             if (const int gained = BoxesTaken(drawn, line); gained > 0) {
                 const LineSet next = drawn | Bit(line);
                 int left = 0;
@@ -208,9 +213,8 @@ private:
             return found->second;
         double value = -1000;
         if (kinds.first == 0) {
-            for (int line = 0; line < LineCount(); ++line)
-                if ((drawn & Bit(line)) == 0)
-                    value = std::max(value, ValueAfter(drawn, line, kinds));
+            for (const int line : OpenLines(drawn))
+                value = std::max(value, ValueAfter(drawn, line, kinds));
         } else {
             const std::vector<OracleRow> rows = Rows(drawn, kinds.first, kinds.second);
             double sum = 0;
