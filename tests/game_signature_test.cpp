@@ -2,7 +2,6 @@
 #include <cstdint>
 #include <fstream>
 
-#include "core/random.h"
 #include "support/game_test.h"
 #include "ui/commands.h"
 
@@ -37,24 +36,26 @@ private:
 
 class GameSignature : public GameTest {};
 
-TEST_F(GameSignature, IsTheOneOnRecord) {
+TEST_F(GameSignature, OfEveryPairOfPlayersIsTheOneOnRecordAndTheirBoardsAreSound) {
     Recorder recorder;
-    for (const auto& [columns, rows] : {std::pair{10, 10}, {7, 4}, {2, 9}, {1, 6}, {2, 2}}) {
-        for (Integer firstKind = ComputerAverage; firstKind <= ComputerCheat; ++firstKind) {
-            for (Integer secondKind = ComputerAverage; secondKind <= ComputerCheat; ++secondKind) {
+    for (const auto& [columns, rows] : {std::pair{10, 10}, {7, 4}, {1, 1}, {1, 6}, {5, 1}, {2, 2}})
+        for (Integer firstKind = Humanoid; firstKind <= ComputerCheat; ++firstKind)
+            for (Integer secondKind = Humanoid; secondKind <= ComputerCheat; ++secondKind)
                 for (const Command command : {Command::Start, Command::Auto}) {
                     StartFresh();
-                    Game.GridColumns = ToInteger(columns);
-                    Game.GridRows = ToInteger(rows);
-                    Game.PlayerKind = {{firstKind, secondKind}};
+                    SetUpGame(columns, rows, firstKind, secondKind);
+                    Game.GameInPlay = false;
+                    LetPersonsPlay(1);
                     recorder.Recorded = 0;
-                    TheNullDesktop.WhenYielding = [&recorder] { recorder.Record(); };
+                    TheNullDesktop.WhenYielding = [&recorder] {
+                        recorder.Record();
+                        ASSERT_TRUE(BoardIsSound());
+                    };
                     RunCommand(command);
                     recorder.Record();
+                    EXPECT_EQ(Game.LinesDrawn, columns * (rows + 1) + (columns + 1) * rows);
+                    EXPECT_TRUE(!Game.GameInPlay && frmQuibsMain.shpPlayer4Active.Visible);
                 }
-            }
-        }
-    }
     std::uint64_t onRecord = 0;
     std::ifstream(QUIBLINK_TESTS "/game_signature.txt") >> onRecord;
     EXPECT_EQ(recorder.Hash, onRecord)

@@ -1,9 +1,8 @@
-// Whole games from set-up to their end, and commands that arrive in the middle of every wait.
+// The waits of a game and all that may arrive in the middle of them, and the end of a game.
 #include "core/turn_loop.h"
 
 #include <set>
 
-#include "core/random.h"
 #include "display/command_states.h"
 #include "support/game_test.h"
 #include "ui/commands.h"
@@ -181,24 +180,6 @@ TEST_F(TurnLoop, ObeysInTheMiddleOfEveryWaitAndLosesNoTime) {
             RunCommand(Command::Start);
             ExpectPlayedToTheEnd();
         }
-}
-
-TEST_F(TurnLoop, PlaysEveryPairOfPlayersToTheEndWithASoundBoardInEveryYield) {
-    for (const auto& [columns, rows] : {std::pair{10, 10}, {7, 4}, {1, 1}, {1, 6}, {5, 1}, {2, 2}})
-        for (Integer firstKind = Humanoid; firstKind <= ComputerCheat; ++firstKind)
-            for (Integer secondKind = Humanoid; secondKind <= ComputerCheat; ++secondKind) {
-                SCOPED_TRACE(
-                    testing::PrintToString(std::tuple(columns, rows, firstKind, secondKind)));
-                StartFresh();
-                SetUpGame(columns, rows, firstKind, secondKind);
-                Game.GameInPlay = false;
-                for (const int seed : {1, 2, 3}) {
-                    SeedRandom(seed);
-                    WatchGame(seed);
-                    RunCommand(seed == 3 ? Command::Auto : Command::Start);
-                    ExpectPlayedToTheEnd();
-                }
-            }
 }
 
 TEST_F(TurnLoop, TellsTheEndOfAGameAndBlinksForThreeSecondsUndisturbed) {
