@@ -250,6 +250,7 @@ TEST_F(TurnLoop, TakesExchangeOnlyForAPreparedGame) {
     AfterSeconds(1.6, [] { RunCommand(Command::Draw); });
     RunCommand(Command::Start);
     EXPECT_EQ(EnabledCommands(), Prepared) << "drawn when the blink was cut short";
+    EXPECT_EQ(Game.LinesDrawn, 2) << "all harmless lines of one box";
     EXPECT_LT(TheNullDesktop.SecondsWaited, 1.7);
     const int other = OtherPlayer(Game.CurrentPlayer);
     RunCommand(Command::Exchange);
