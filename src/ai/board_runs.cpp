@@ -4,22 +4,6 @@
 
 namespace {
 
-bool IsDrawn(int line) {
-    return Game.Lines.at(line).Drawn != 0;
-}
-
-int BoxAcross(int line, int box) {
-    const Line& crossed = Game.Lines.at(line);
-    return crossed.FirstBox == box ? crossed.SecondBox : crossed.FirstBox;
-}
-
-int OpenSideBut(int box, int line) {
-    for (const Integer side : Game.Boxes.at(box).Sides)
-        if (side != line && !IsDrawn(side))
-            return side;
-    return 0;
-}
-
 class Reader {
 public:
     Reader() : JointNumbers(Game.Boxes.size(), 0), IsRead(Game.Boxes.size(), false) {
@@ -40,10 +24,10 @@ private:
         Run run;
         run.Boxes = 1;
         IsRead.at(box) = true;
-        const int firstLine = OpenSideBut(box, 0);
+        const int firstLine = FirstUndrawnSide(box);
         run.Ends[0] = Follow(box, firstLine, run.Boxes);
         run.Ends[1] =
-            run.IsRing() ? Run::Closed : Follow(box, OpenSideBut(box, firstLine), run.Boxes);
+            run.IsRing() ? Run::Closed : Follow(box, FirstUndrawnSide(box, firstLine), run.Boxes);
         Found.Runs.push_back(run);
     }
 
@@ -59,7 +43,7 @@ private:
                 return JointNumbers.at(box); // 0 beyond the border
             ++boxes;
             IsRead.at(box) = true;
-            line = OpenSideBut(box, line);
+            line = FirstUndrawnSide(box, line);
         }
     }
 

@@ -11,13 +11,6 @@ int FindCaptureBox() {
     return 0;
 }
 
-int FirstUndrawnSide(int box) {
-    for (const Integer side : Game.Boxes.at(box).Sides)
-        if (Game.Lines.at(side).Drawn == 0)
-            return side;
-    return 0;
-}
-
 bool TakesABox(int line) {
     const Line& candidate = Game.Lines.at(line);
     return candidate.Drawn == 0 && (Game.Boxes.at(candidate.FirstBox).SidesDrawn == 3 ||

@@ -6,9 +6,6 @@ inline constexpr float CapturePause = 0.25F; // seconds, before a choice and aft
 // The first box with three sides, 0 = none.
 int FindCaptureBox();
 
-// The first side of `box` still to be drawn, from top to right; 0 = none.
-int FirstUndrawnSide(int box);
-
 // Whether `line` is still to be drawn and would complete a box.
 bool TakesABox(int line);
 

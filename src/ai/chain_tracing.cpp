@@ -48,7 +48,7 @@ private:
 
 PlayOut playOut;
 
-int FirstUndrawnSide(int box) {
+int FirstSideLeft(int box) {
     for (const Integer side : Game.Boxes.at(box).Sides)
         if (!playOut.IsDrawn(side))
             return side;
@@ -69,23 +69,17 @@ void CompleteBoxesBeside(int line) {
     }
 }
 
-// The box that a walk goes on to from `box` over `line`, 0 = none.
-int NextBox(int box, int line) {
-    const auto [first, second] = BoxesBeside(line);
-    return first != box ? first : second;
-}
-
 // Takes box after box, each of which has three sides when it is reached. A first box that `line`
 // itself completes has no side left to draw, and is taken by counting `line`.
 void Walk(int box, int line, CountedList<Integer>& lines) {
     do {
-        if (const int side = FirstUndrawnSide(box); side != 0) {
+        if (const int side = FirstSideLeft(box); side != 0) {
             line = side;
             lines.Append(ToInteger(line));
         }
         playOut.Mark(line);
         CompleteBoxesBeside(line);
-        box = NextBox(box, line);
+        box = BoxAcross(line, box);
     } while (box != 0 && playOut.SidesDrawn(box) == 3);
 }
 

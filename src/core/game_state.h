@@ -131,3 +131,9 @@ inline bool IsPlayer(int player) {
 inline int OtherPlayer(int player) {
     return 3 - player;
 }
+
+// The box beyond a line of `box`, 0 = the border.
+int BoxAcross(int line, int box);
+
+// The first side of `box` but `leftOut` still to be drawn, from top to right; 0 = none.
+int FirstUndrawnSide(int box, int leftOut = 0);

@@ -15,18 +15,6 @@ int SidesDrawn(int box) {
     return Game.Boxes.at(box).SidesDrawn;
 }
 
-int NeighbourAcross(const Line& line, int box) {
-    return line.FirstBox == box ? line.SecondBox : line.FirstBox;
-}
-
-// The first side of `box` but `line` that is still to be drawn.
-int OtherOpenSide(int box, int line) {
-    for (const Integer side : Game.Boxes.at(box).Sides)
-        if (side != line && Game.Lines.at(side).Drawn == 0)
-            return side;
-    return 0;
-}
-
 // Whether the line gives the opponent a box together with another that could be taken instead.
 bool GivesAwayATakeableBox(int line) {
     const Line& chosen = Game.Lines.at(line);
@@ -39,8 +27,7 @@ bool GivesAwayATakeableBox(int line) {
         given = chosen.SecondBox;
     else
         return false;
-    const int openSide = OtherOpenSide(given, line);
-    return SidesDrawn(NeighbourAcross(Game.Lines.at(openSide), given)) == 3;
+    return SidesDrawn(BoxAcross(FirstUndrawnSide(given, line), given)) == 3;
 }
 
 // Claims the box for the player to move if all its sides are drawn; tells whether it did.
