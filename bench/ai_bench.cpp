@@ -3,9 +3,9 @@
 
 #include "ai/chain_tracing.h"
 #include "ai/move_selection.h"
-#include "core/game_setup.h"
-#include "core/game_state.h"
-#include "core/random.h"
+#include "base/random.h"
+#include "core/play/game_setup.h"
+#include "core/state/game_state.h"
 #include "display/field.h"
 #include "display/safe_lines.h"
 #include "platform/null/null_desktop.h"

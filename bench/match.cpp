@@ -8,10 +8,10 @@
 #include <vector>
 
 #include "ai/move_selection.h"
-#include "core/game_setup.h"
-#include "core/game_state.h"
-#include "core/moves.h"
-#include "core/random.h"
+#include "base/random.h"
+#include "core/play/game_setup.h"
+#include "core/rules/moves.h"
+#include "core/state/game_state.h"
 #include "platform/null/null_desktop.h"
 #include "ui/commands.h"
 

@@ -2,11 +2,11 @@
 #include <QApplication>
 #include <iostream>
 
-#include "core/game_state.h"
+#include "core/state/game_state.h"
 #include "platform/desktop.h"
 #include "ui/commands.h"
-#include "ui/end_signals.h"
-#include "ui/main_window.h"
+#include "ui/qt/end_signals.h"
+#include "ui/qt/main_window.h"
 
 namespace {
 

@@ -1,7 +1,7 @@
 // Which boxes fall after a line.
 #include "ai/chain_tracing.h"
 
-#include "core/work_lists.h"
+#include "core/state/work_lists.h"
 #include "support/game_test.h"
 
 namespace {

@@ -7,7 +7,7 @@
 #include "ai/board_runs.h"
 #include "ai/giveaway_search.h"
 #include "ai/move_selection.h"
-#include "core/random.h"
+#include "base/random.h"
 #include "display/safe_lines.h"
 #include "support/brute_force.h"
 #include "support/game_test.h"

@@ -3,7 +3,7 @@
 
 #include <algorithm>
 
-#include "core/game_setup.h"
+#include "core/play/game_setup.h"
 #include "display/safe_lines.h"
 #include "support/game_test.h"
 #include "support/person.h"

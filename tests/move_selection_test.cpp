@@ -3,7 +3,7 @@
 
 #include <map>
 
-#include "core/random.h"
+#include "base/random.h"
 #include "support/game_test.h"
 #include "support/person.h"
 

@@ -1,5 +1,5 @@
 // What one drawn line changes, and which lines a person may draw.
-#include "core/moves.h"
+#include "core/rules/moves.h"
 
 #include "support/files.h"
 #include "support/game_test.h"

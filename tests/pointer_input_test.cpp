@@ -1,5 +1,5 @@
 // How the pointer on the field becomes a line.
-#include "core/pointer_input.h"
+#include "core/play/pointer_input.h"
 
 #include "support/game_test.h"
 #include "support/person.h"

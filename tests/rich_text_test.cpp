@@ -1,4 +1,4 @@
-#include "ui/rich_text.h"
+#include "ui/rich_text/rich_text.h"
 
 #include <gtest/gtest.h>
 

@@ -6,7 +6,7 @@
 
 #include <csignal>
 
-#include "core/text_encoding.h"
+#include "base/text_encoding.h"
 #include "display/command_states.h"
 #include "storage/value_file.h"
 #include "support/game_test.h"

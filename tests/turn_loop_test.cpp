@@ -1,5 +1,5 @@
 // The waits of a game and all that may arrive in the middle of them, and the end of a game.
-#include "core/turn_loop.h"
+#include "core/play/turn_loop.h"
 
 #include <set>
 

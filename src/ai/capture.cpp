@@ -1,8 +1,8 @@
 #include "ai/capture.h"
 
-#include "core/game_state.h"
-#include "core/moves.h"
-#include "core/pacing.h"
+#include "core/rules/moves.h"
+#include "core/rules/pacing.h"
+#include "core/state/game_state.h"
 
 int FindCaptureBox() {
     for (int box = 1; box <= Game.BoxCount; ++box)

@@ -4,8 +4,8 @@
 #include <array>
 #include <vector>
 
-#include "core/game_state.h"
-#include "core/work_lists.h"
+#include "core/state/game_state.h"
+#include "core/state/work_lists.h"
 
 namespace {
 

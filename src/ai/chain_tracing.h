@@ -1,7 +1,7 @@
 // Plays lines out on a private copy of the board, to see which boxes fall one after another.
 #pragma once
 
-#include "core/counted_list.h"
+#include "base/counted_list.h"
 
 // Plays `line` out and follows the run of boxes with three sides from each of its two boxes. Leaves
 // in `Work`:

@@ -4,12 +4,12 @@
 #include <vector>
 
 #include "ai/board_runs.h"
+#include "ai/giveaway.h"
 #include "ai/giveaway_search.h"
-#include "ai/sacrifice.h"
-#include "core/game_state.h"
-#include "core/pacing.h"
-#include "core/random.h"
-#include "core/work_lists.h"
+#include "base/random.h"
+#include "core/rules/pacing.h"
+#include "core/state/game_state.h"
+#include "core/state/work_lists.h"
 
 namespace {
 

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <limits>
 
-#include "core/game_state.h"
+#include "core/state/game_state.h"
 #include "platform/desktop.h"
 
 namespace {

@@ -3,11 +3,12 @@
 #include "ai/capture.h"
 #include "ai/chain_tracing.h"
 #include "ai/cheat_capture.h"
+#include "ai/giveaway.h"
 #include "ai/sacrifice.h"
-#include "core/game_state.h"
-#include "core/pacing.h"
-#include "core/random.h"
-#include "core/work_lists.h"
+#include "base/random.h"
+#include "core/rules/pacing.h"
+#include "core/state/game_state.h"
+#include "core/state/work_lists.h"
 #include "display/safe_lines.h"
 
 namespace {

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <numeric>
 
-#include "core/random.h"
+#include "base/random.h"
 
 namespace {
 

@@ -5,10 +5,11 @@
 #include "ai/capture.h"
 #include "ai/chain_tracing.h"
 #include "ai/deep_sacrifice.h"
-#include "core/game_state.h"
-#include "core/pacing.h"
-#include "core/random.h"
-#include "core/work_lists.h"
+#include "ai/giveaway.h"
+#include "base/random.h"
+#include "core/rules/pacing.h"
+#include "core/state/game_state.h"
+#include "core/state/work_lists.h"
 #include "platform/desktop.h"
 
 namespace {
@@ -18,30 +19,23 @@ Integer NoCandidate() {
     return ToInteger(Game.BoxCount + 1);
 }
 
-// Lets the window answer in between, however long the chains are.
-void TraceChainResponsively(int line, int& boxesTraced) {
+// Lets the window answer in between, however long the chains are that were traced.
+void YieldAfterTracing(int& boxesTraced) {
     constexpr int boxesBetweenYields = 200'000;
-    TraceChain(line);
     boxesTraced += Work.ChainBoxes.Count();
-    if (boxesTraced >= boxesBetweenYields) {
-        boxesTraced = 0;
-        YieldToEvents(0);
-    }
+    if (boxesTraced < boxesBetweenYields)
+        return;
+    boxesTraced = 0;
+    YieldToEvents(0);
 }
 
 void SizeRiskyLines() {
     int boxesTraced = 0;
     for (RiskyLine& risky : Work.RiskyLines) {
-        TraceChainResponsively(risky.Line, boxesTraced);
+        TraceChain(risky.Line);
         risky.Size = Work.ChainBoxes.Count() > 0 ? Work.ChainBoxes.Count() : NoCandidate();
+        YieldAfterTracing(boxesTraced);
     }
-}
-
-// Appends to `ChainLines`, as `TraceChain` left it, the line traced and the other walk: all the
-// lines whose drawing opens this giveaway.
-void GatherGiveaway(int line) {
-    Work.ChainLines.Append(ToInteger(line));
-    Work.ChainLines.Append(Work.ChainTailLines);
 }
 
 // The row of `line` behind `row`, 0 = none. Before they are sorted by size the rows stand in the
@@ -61,13 +55,13 @@ void KeepOneLinePerGiveaway() {
         const RiskyLine kept = Work.RiskyLines.at(row);
         if (kept.Size == NoCandidate())
             continue;
-        TraceChainResponsively(kept.Line, boxesTraced);
         GatherGiveaway(kept.Line);
         for (const Integer line : Work.ChainLines) {
             const int other = FindRowBehind(row, line);
             if (other != 0 && Work.RiskyLines.at(other).Size == kept.Size)
                 Work.RiskyLines.at(other).Size = NoCandidate();
         }
+        YieldAfterTracing(boxesTraced);
     }
 }
 
@@ -100,22 +94,4 @@ void ChooseSacrifice() {
         ChooseSacrificeDeep();
     else
         ChooseSmallestGiveaway();
-}
-
-void GiveAwayLine(int line) {
-    TraceChain(line);
-    GatherGiveaway(line);
-    const Integer kind = Game.PlayerKind.at(Game.CurrentPlayer);
-    if (Work.ChainBoxes.Count() != 2 || kind == Humanoid || kind == ComputerAverage) {
-        Game.ChosenLine = Work.ChainLines.at(RandomPick(Work.ChainLines.Count()));
-        return;
-    }
-    const auto [firstBox, secondBox] = std::minmax(Work.ChainBoxes.at(1), Work.ChainBoxes.at(2));
-    for (const Integer between : Work.ChainLines) {
-        const Line& candidate = Game.Lines.at(between);
-        if (candidate.FirstBox == firstBox && candidate.SecondBox == secondBox) {
-            Game.ChosenLine = between;
-            return;
-        }
-    }
 }

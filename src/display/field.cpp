@@ -2,12 +2,10 @@
 
 #include <cmath>
 
-#include "core/game_state.h"
+#include "core/state/game_state.h"
 #include "platform/picture.h"
 
 namespace {
-
-constexpr int PixelsBetweenPoints = 25;
 
 Integer CentredStart(int pictureSize, int fieldSize) {
     return RoundToInteger((pictureSize - fieldSize) / 2.0);

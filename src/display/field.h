@@ -3,7 +3,9 @@
 
 #include "platform/color.h"
 
-// Puts neighbouring points 25 pixels apart, as in every new game; an opened one brings its own
+inline constexpr int PixelsBetweenPoints = 25;
+
+// Puts neighbouring points so many pixels apart, as in every new game; an opened one brings its own
 // spacing.
 void ResetPointSpacing();
 

@@ -2,9 +2,9 @@
 
 #include <vector>
 
-#include "core/game_state.h"
-#include "core/random.h"
-#include "core/work_lists.h"
+#include "base/random.h"
+#include "core/state/game_state.h"
+#include "core/state/work_lists.h"
 #include "display/field.h"
 #include "display/status_panel.h"
 

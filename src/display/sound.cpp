@@ -1,7 +1,7 @@
 #include "display/sound.h"
 
-#include "core/file_exists.h"
-#include "core/random.h"
+#include "base/files.h"
+#include "base/random.h"
 #include "platform/wave_player.h"
 
 namespace {

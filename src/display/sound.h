@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "core/game_state.h"
+#include "core/state/game_state.h"
 
 // Plays a wave file of the current directory in the background if sound is on and the file exists.
 void PlaySound(const std::string& fileName);

@@ -1,6 +1,6 @@
 #include "display/status_panel.h"
 
-#include "core/game_state.h"
+#include "core/state/game_state.h"
 
 namespace {
 

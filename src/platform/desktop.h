@@ -23,6 +23,19 @@ enum class MessageAnswer { Ok, Yes, No };
 MessageAnswer ShowMessageBox(const std::string& text, const std::string& title, MessageIcon icon,
                              MessageButtons buttons);
 
+// The windows that commands open beside the main window.
+enum class Form { FileOpen, FileSave, DefineGrid, DefinePlayers, Help };
+
+// Loads and shows a form, or raises it if it is open already. Returns at once.
+void ShowForm(Form form);
+
 // Twips (1440 to the inch) to one logical pixel of the screen, across and down.
 double ScreenTwipsPerPixelX();
 double ScreenTwipsPerPixelY();
+
+// Of the screen that the main window opens on, in twips.
+double ScreenWidth();
+
+// Puts the main window, which is not shown yet, on its screen.
+enum class WindowPlace { Centred, Maximised };
+void PlaceMainWindow(WindowPlace place);

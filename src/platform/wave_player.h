@@ -5,6 +5,10 @@
 
 enum class WaveCommand { Open, Play, Close };
 
+// The kind of device that the game plays on: "WaveAudio", the only one there is. Any other is
+// silence.
+void SetWaveDeviceType(const std::string& deviceType);
+
 // Names the file that the next Open reads.
 void SetWaveFile(const std::string& fileName);
 

@@ -4,8 +4,8 @@
 #include <exception>
 #include <utility>
 
-#include "core/game_state.h"
-#include "core/random.h"
+#include "base/random.h"
+#include "core/state/game_state.h"
 #include "display/field.h"
 #include "display/sound.h"
 #include "display/status_panel.h"

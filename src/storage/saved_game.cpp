@@ -4,9 +4,9 @@
 #include <exception>
 #include <stdexcept>
 
-#include "core/file_exists.h"
-#include "core/game_state.h"
-#include "core/work_lists.h"
+#include "base/files.h"
+#include "core/state/game_state.h"
+#include "core/state/work_lists.h"
 #include "display/command_states.h"
 #include "display/field.h"
 #include "display/status_panel.h"

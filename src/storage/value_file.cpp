@@ -7,8 +7,8 @@
 #include <stdexcept>
 #include <string_view>
 
-#include "core/file_exists.h"
-#include "core/text_encoding.h"
+#include "base/files.h"
+#include "base/text_encoding.h"
 
 namespace {
 

@@ -6,7 +6,7 @@
 #include <cstdint>
 #include <string>
 
-#include "core/integer.h"
+#include "base/integer.h"
 
 // Takes the channel for reading the regular file `path`. Throws std::runtime_error, and takes
 // nothing, when the channel is taken or there is no such file that may be read.

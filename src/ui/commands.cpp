@@ -1,23 +1,29 @@
 #include "ui/commands.h"
 
+#include <algorithm>
+#include <array>
 #include <exception>
 #include <string>
 #include <utility>
 
-#include "core/game_setup.h"
-#include "core/game_state.h"
-#include "core/pointer_input.h"
-#include "core/random.h"
-#include "core/turn_loop.h"
+#include "base/random.h"
+#include "core/play/game_setup.h"
+#include "core/play/pointer_input.h"
+#include "core/play/turn_loop.h"
+#include "core/state/game_state.h"
 #include "display/command_states.h"
 #include "display/field.h"
 #include "display/safe_lines.h"
 #include "display/status_panel.h"
 #include "platform/desktop.h"
+#include "platform/picture.h"
+#include "platform/wave_player.h"
 #include "storage/configuration.h"
 #include "storage/saved_game.h"
 
 namespace {
+
+constexpr double NarrowestCentredScreen = 1024; // pixels
 
 bool Confirms(const char* question, const char* title) {
     return ShowMessageBox(question, title, MessageIcon::Question, MessageButtons::YesNo) ==
@@ -89,6 +95,13 @@ void SaveSettings() {
     }
 }
 
+// In the order of the commands.
+constexpr std::array<void (*)(), CommandCount> Handlers{
+    mnuOpen_Click,  mnuSave_Click,      mnuExit_Click,     mnuStart_Click,
+    mnuAuto_Click,  mnuDraw_Click,      mnuExchange_Click, mnuHint_Click,
+    mnuPause_Click, mnuQuit_Click,      mnuGrid_Click,     mnuPlayers_Click,
+    mnuSound_Click, mnuQuibsHelp_Click, mnuHistory_Click,  mnuAbout_Click};
+
 // Centred by hand for a box of 80 characters.
 std::string CentredLine(const std::string& line) {
     const int indent = RoundToInteger(40 - static_cast<double>(line.size()) / 2);
@@ -120,38 +133,20 @@ void RunGuarded(const std::function<void()>& handler) {
 void RunCommand(Command command) {
     if (!IsEnabled(command) || Game.ProgramEnding)
         return;
-    switch (command) {
-    case Command::Exit:
-        return mnuExit_Click();
-    case Command::Start:
-        return mnuStart_Click();
-    case Command::Auto:
-        return mnuAuto_Click();
-    case Command::Draw:
-        return mnuDraw_Click();
-    case Command::Exchange:
-        return mnuExchange_Click();
-    case Command::Hint:
-        return mnuHint_Click();
-    case Command::Pause:
-        return mnuPause_Click();
-    case Command::Quit:
-        return mnuQuit_Click();
-    case Command::Sound:
-        return mnuSound_Click();
-    case Command::About:
-        return mnuAbout_Click();
-    default:
-        break;
-    }
+    Handlers.at(static_cast<std::size_t>(command))();
 }
 
 void Form_Load() {
     Game.TwipsPerPixelX = ToInteger(std::max<int>(1, RoundToInteger(ScreenTwipsPerPixelX())));
     Game.TwipsPerPixelY = ToInteger(std::max<int>(1, RoundToInteger(ScreenTwipsPerPixelY())));
+    SetPictureScale(Game.TwipsPerPixelX, Game.TwipsPerPixelY);
+    const double screenPixels = ScreenWidth() / Game.TwipsPerPixelX;
+    PlaceMainWindow(screenPixels >= NarrowestCentredScreen ? WindowPlace::Centred
+                                                           : WindowPlace::Maximised);
     SetDefaults();
     ShowPlayerStatus(1);
     ShowPlayerStatus(2);
+    SetWaveDeviceType("WaveAudio");
     EnterPhase(Phase::Idle);
 }
 
@@ -174,31 +169,20 @@ void Form_Unload() {
     Game.ProgramEnding = true;
 }
 
+void mnuOpen_Click() {
+    ShowForm(Form::FileOpen);
+}
+
+void mnuSave_Click() {
+    ShowForm(Form::FileSave);
+}
+
 void mnuExit_Click() {
     if ((Game.GameInPlay || Game.GamePaused) &&
         !Confirms("A game is in progress, exit anyway?", "Exit the Game"))
         return;
     SaveSettings();
     Form_Unload();
-}
-
-void OpenGame(const std::string& path) {
-    if (!IsEnabled(Command::Open) || Game.GameInPlay || Game.ProgramEnding)
-        return;
-    Game.GameToOpen = path;
-    RunGameCommand(Command::Open);
-}
-
-bool SaveGameAs(const std::string& directory, const std::string& name) {
-    if (!IsEnabled(Command::Save) || Game.ProgramEnding)
-        return true;
-    if (name.empty()) {
-        ShowMessageBox("File name must be specified.", "Quibs Game Save Error",
-                       MessageIcon::Exclamation, MessageButtons::Ok);
-        return false;
-    }
-    SaveGame(SavePath(directory, name));
-    return true;
 }
 
 void mnuStart_Click() {
@@ -249,10 +233,28 @@ void mnuQuit_Click() {
         EnterPhase(Phase::QuitPending);
 }
 
+void mnuGrid_Click() {
+    ShowForm(Form::DefineGrid);
+}
+
+void mnuPlayers_Click() {
+    ShowForm(Form::DefinePlayers);
+}
+
 void mnuSound_Click() {
     Game.SettingsChanged = true;
     Game.SoundOn = !Game.SoundOn;
     StateOf(Command::Sound).Checked = Game.SoundOn;
+}
+
+void mnuQuibsHelp_Click() {
+    Game.ShowHistory = false;
+    ShowForm(Form::Help);
+}
+
+void mnuHistory_Click() {
+    Game.ShowHistory = true;
+    ShowForm(Form::Help);
 }
 
 void mnuAbout_Click() {
@@ -260,6 +262,25 @@ void mnuAbout_Click() {
                              CentredLine("A game of quibs, lines and boxes") + "\n" +
                              CentredLine("Made by the Quiblink developers") + std::string(40, ' ');
     ShowMessageBox(text, "About Quiblink", MessageIcon::None, MessageButtons::Ok);
+}
+
+void OpenGame(const std::string& path) {
+    if (!IsEnabled(Command::Open) || Game.GameInPlay || Game.ProgramEnding)
+        return;
+    Game.GameToOpen = path;
+    RunGameCommand(Command::Open);
+}
+
+bool SaveGameAs(const std::string& directory, const std::string& name) {
+    if (!IsEnabled(Command::Save) || Game.ProgramEnding)
+        return true;
+    if (name.empty()) {
+        ShowMessageBox("File name must be specified.", "Quibs Game Save Error",
+                       MessageIcon::Exclamation, MessageButtons::Ok);
+        return false;
+    }
+    SaveGame(SavePath(directory, name));
+    return true;
 }
 
 void picPlayingField_MouseDown() {

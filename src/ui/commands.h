@@ -12,10 +12,11 @@
 void RunGuarded(const std::function<void()>& handler);
 
 // Carries out a command if it is enabled; one that arrives late, after its state changed, does
-// nothing. Only for commands that have a handler here.
+// nothing.
 void RunCommand(Command command);
 
-// Start-up, with the window's size known: screen factors, settings, status lines.
+// Start-up, before the window is shown: screen factors, the window's place, settings, status lines,
+// sound player.
 void Form_Load();
 
 // Redraws the field for the picture's new size. True when the user is to be warned, by
@@ -26,6 +27,8 @@ void ShowResizeWarning();
 // The close box: every wait and loop ends, nothing is asked or saved.
 void Form_Unload();
 
+void mnuOpen_Click();
+void mnuSave_Click();
 void mnuExit_Click();
 void mnuStart_Click();
 void mnuAuto_Click();
@@ -34,7 +37,11 @@ void mnuExchange_Click();
 void mnuHint_Click();
 void mnuPause_Click();
 void mnuQuit_Click();
+void mnuGrid_Click();
+void mnuPlayers_Click();
 void mnuSound_Click();
+void mnuQuibsHelp_Click();
+void mnuHistory_Click();
 void mnuAbout_Click();
 
 // Ok of the open dialog, with the text of its path box as it stands. Does nothing when a game may

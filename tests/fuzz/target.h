@@ -5,7 +5,7 @@
 #include <stdexcept>
 #include <string>
 
-#include "core/game_state.h"
+#include "core/state/game_state.h"
 
 // Does everything with one input; throws where it is harmed.
 void TryInput(const std::string& input);

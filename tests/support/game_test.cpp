@@ -2,8 +2,8 @@
 
 #include <random>
 
-#include "core/game_setup.h"
-#include "core/random.h"
+#include "base/random.h"
+#include "core/play/game_setup.h"
 #include "display/safe_lines.h"
 
 namespace {

@@ -3,7 +3,7 @@
 #include <random>
 #include <stdexcept>
 
-#include "core/random.h"
+#include "base/random.h"
 #include "display/field.h"
 #include "storage/value_file.h"
 #include "ui/commands.h"

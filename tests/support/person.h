@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <vector>
 
-#include "core/game_state.h"
+#include "core/state/game_state.h"
 #include "platform/null/null_desktop.h"
 
 // Takes the program, its controls and the desktop back to a start with a fixed seed and with the

@@ -97,12 +97,27 @@ MessageAnswer ShowMessageBox(const std::string& text, const std::string& title, 
     return answer;
 }
 
+void ShowForm(Form form) {
+    TheNullDesktop.Forms.push_back(form);
+}
+
 double ScreenTwipsPerPixelX() {
     return 15;
 }
 
 double ScreenTwipsPerPixelY() {
     return 15;
+}
+
+// The null picture is measured in twips alone.
+void SetPictureScale(int /*twipsPerPixelX*/, int /*twipsPerPixelY*/) {}
+
+double ScreenWidth() {
+    return TheNullDesktop.ScreenWidth;
+}
+
+void PlaceMainWindow(WindowPlace place) {
+    TheNullDesktop.Place = place;
 }
 
 int PictureWidth() {
@@ -131,6 +146,10 @@ void ErasePictureLine(int fromX, int fromY, int toX, int toY) {
 
 void FillPictureBox(int left, int top, int right, int bottom, Color color) {
     Draw(Drawing::Kind::Box, left, top, right, bottom, color);
+}
+
+void SetWaveDeviceType(const std::string& deviceType) {
+    TheNullDesktop.WaveDeviceType = deviceType;
 }
 
 void SetWaveFile(const std::string& fileName) {

@@ -5,6 +5,7 @@
 
 #include <deque>
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -30,7 +31,8 @@ struct MessageBox {
 struct NullDesktop {
     int PictureWidth = 8400; // twips
     int PictureHeight = 6300;
-    double Clock = 36000; // seconds since midnight
+    double Clock = 36000;       // seconds since midnight
+    double ScreenWidth = 19200; // twips
 
     std::deque<MessageAnswer> Answers; // a box that finds none fails the test
     // Called when the game sleeps for an event and no event is due: a person who may now act. A
@@ -41,7 +43,10 @@ struct NullDesktop {
 
     std::vector<Drawing> Drawings; // since the picture was cleared
     std::vector<MessageBox> Boxes;
+    std::vector<Form> Forms;
+    std::optional<WindowPlace> Place;
     std::vector<std::string> Sounds; // "Open SndClick.wav", "Play SndClick.wav", "Close"
+    std::string WaveDeviceType;
     double SecondsWaited = 0;
     int Yields = 0;
 };

@@ -4,7 +4,6 @@
 #include <algorithm>
 #include <cmath>
 
-#include "core/game_state.h"
 #include "platform/picture.h"
 #include "platform/qt/qt_color.h"
 
@@ -45,9 +44,9 @@ void FieldPicture::Fill(int left, int top, int right, int bottom, QRgb color) {
         return static_cast<int>(std::floor(twips * Ratio / twipsPerPixel));
     };
     const QRect wanted(
-        QPoint(toScreen(left, Game.TwipsPerPixelX), toScreen(top, Game.TwipsPerPixelY)),
-        QPoint(toScreen(right, Game.TwipsPerPixelX) + stroke - 1,
-               toScreen(bottom, Game.TwipsPerPixelY) + stroke - 1));
+        QPoint(toScreen(left, TwipsPerPixel.width()), toScreen(top, TwipsPerPixel.height())),
+        QPoint(toScreen(right, TwipsPerPixel.width()) + stroke - 1,
+               toScreen(bottom, TwipsPerPixel.height()) + stroke - 1));
     const QRect filled = wanted & Pixels.rect();
     if (filled.isEmpty())
         return;
@@ -60,12 +59,21 @@ void FieldPicture::Fill(int left, int top, int right, int bottom, QRgb color) {
     WhenChanged(logical.toAlignedRect());
 }
 
+QSize FieldPicture::SizeInTwips() const {
+    return QSize(Size.width() * TwipsPerPixel.width(), Size.height() * TwipsPerPixel.height())
+        .boundedTo(QSize(LargestPicture, LargestPicture));
+}
+
+void SetPictureScale(int twipsPerPixelX, int twipsPerPixelY) {
+    TheFieldPicture.SetScale(QSize(twipsPerPixelX, twipsPerPixelY));
+}
+
 int PictureWidth() {
-    return std::min(TheFieldPicture.LogicalSize().width() * Game.TwipsPerPixelX, LargestPicture);
+    return TheFieldPicture.SizeInTwips().width();
 }
 
 int PictureHeight() {
-    return std::min(TheFieldPicture.LogicalSize().height() * Game.TwipsPerPixelY, LargestPicture);
+    return TheFieldPicture.SizeInTwips().height();
 }
 
 void ClearPicture() {

@@ -7,12 +7,16 @@
 
 class FieldPicture {
 public:
+    // Twips to one logical pixel, across and down.
+    void SetScale(QSize twipsPerPixel) { TwipsPerPixel = twipsPerPixel; }
+
     // Takes the size in logical pixels and the screen pixels to one of them. What was drawn stays
     // where it was, as far as it fits.
     void Resize(QSize logicalSize, qreal screenPixelRatio);
 
     const QImage& Image() const { return Pixels; }
-    QSize LogicalSize() const { return Size; }
+    // Inner size in twips, 0 to 32767.
+    QSize SizeInTwips() const;
     qreal PixelRatio() const { return Ratio; }
 
     void Clear();
@@ -27,6 +31,7 @@ private:
     QImage Pixels;
     QSize Size;
     qreal Ratio = 1;
+    QSize TwipsPerPixel{1, 1};
 };
 
 extern FieldPicture TheFieldPicture;

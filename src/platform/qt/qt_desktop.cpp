@@ -3,12 +3,11 @@
 
 #include <QApplication>
 #include <QMessageBox>
+#include <QScreen>
 #include <QTime>
 #include <QTimer>
 #include <cmath>
 #include <utility>
-
-#include "platform/desktop.h"
 
 namespace {
 
@@ -16,7 +15,7 @@ constexpr double TwipsPerInch = 1440;
 // A logical pixel is 1/96 inch whatever the screen's scale.
 constexpr double LogicalPixelsPerInch = 96;
 
-std::function<void()> showControls = [] {};
+MainWindowActions mainWindow;
 
 QMessageBox::Icon ToQt(MessageIcon icon) {
     switch (icon) {
@@ -43,8 +42,8 @@ MessageAnswer FromQt(int button) {
 
 } // namespace
 
-void ShowControlsWith(std::function<void()> show) {
-    showControls = std::move(show);
+void UseMainWindow(MainWindowActions actions) {
+    mainWindow = std::move(actions);
 }
 
 float SecondsSinceMidnight() {
@@ -53,7 +52,7 @@ float SecondsSinceMidnight() {
 }
 
 void YieldToEvents(float atMostSeconds) {
-    showControls();
+    mainWindow.ShowControls();
     if (atMostSeconds == 0) {
         QCoreApplication::processEvents();
         return;
@@ -69,7 +68,7 @@ void YieldToEvents(float atMostSeconds) {
 
 MessageAnswer ShowMessageBox(const std::string& text, const std::string& title, MessageIcon icon,
                              MessageButtons buttons) {
-    showControls();
+    mainWindow.ShowControls();
     QMessageBox box(QApplication::activeWindow());
     box.setWindowModality(Qt::ApplicationModal);
     box.setWindowTitle(QString::fromStdString(title));
@@ -81,10 +80,22 @@ MessageAnswer ShowMessageBox(const std::string& text, const std::string& title, 
     return FromQt(box.exec());
 }
 
+void ShowForm(Form form) {
+    mainWindow.ShowForm(form);
+}
+
 double ScreenTwipsPerPixelX() {
     return TwipsPerInch / LogicalPixelsPerInch;
 }
 
 double ScreenTwipsPerPixelY() {
     return TwipsPerInch / LogicalPixelsPerInch;
+}
+
+double ScreenWidth() {
+    return QGuiApplication::primaryScreen()->geometry().width() * ScreenTwipsPerPixelX();
+}
+
+void PlaceMainWindow(WindowPlace place) {
+    mainWindow.Place(place);
 }

@@ -3,6 +3,14 @@
 
 #include <functional>
 
-// `show` brings the window up to date with the controls' data. It is called before every yield and
-// message box.
-void ShowControlsWith(std::function<void()> show);
+#include "platform/desktop.h"
+
+struct MainWindowActions {
+    // Brings the window up to date with the controls' data. Called before every yield and box.
+    std::function<void()> ShowControls = [] {};
+    std::function<void(Form)> ShowForm = [](Form) {};
+    std::function<void(WindowPlace)> Place = [](WindowPlace) {};
+};
+
+// What the main window does for the game, from now on.
+void UseMainWindow(MainWindowActions actions);

@@ -10,6 +10,7 @@ namespace {
 
 constexpr std::uintmax_t LargestFile = 8 << 20; // a larger one would hold up the game
 
+bool isWaveAudio = false;
 std::string waveFile;
 SDL_AudioDeviceID device = 0; // 0 = closed
 
@@ -34,6 +35,8 @@ void Close() {
 
 void Open() {
     Close();
+    if (!isWaveAudio)
+        return;
     std::error_code unreadable;
     const std::uintmax_t bytesOnDisk = std::filesystem::file_size(waveFile, unreadable);
     if (unreadable || bytesOnDisk > LargestFile || !SoundIsThere())
@@ -50,6 +53,10 @@ void Open() {
 }
 
 } // namespace
+
+void SetWaveDeviceType(const std::string& deviceType) {
+    isWaveAudio = deviceType == "WaveAudio";
+}
 
 void SetWaveFile(const std::string& fileName) {
     waveFile = fileName;

@@ -1,0 +1,14 @@
+// The game's one source of chance. The same seed gives the same game on every machine.
+#pragma once
+
+#include <cstdint>
+
+#include "base/integer.h"
+
+void SeedRandom(std::uint64_t seed);
+
+// Uniform in [0, 1), in steps of 2 to the -24.
+float RandomUniform();
+
+// A number from 1 to `count`, all equally likely. Uses one random number.
+Integer RandomPick(int count);

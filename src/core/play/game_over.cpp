@@ -1,0 +1,55 @@
+#include "core/play/game_over.h"
+
+#include "core/rules/pacing.h"
+#include "core/state/game_state.h"
+#include "display/sound.h"
+#include "display/status_panel.h"
+
+namespace {
+
+constexpr int BlinkRounds = 6;
+constexpr float BlinkStep = 0.25F; // seconds
+
+// 1 or 2, 0 = draw.
+int Winner() {
+    if (Game.PlayerScore.at(1) == Game.PlayerScore.at(2))
+        return 0;
+    return Game.PlayerScore.at(1) > Game.PlayerScore.at(2) ? 1 : 2;
+}
+
+void ShowWinner(int winner) {
+    ShowCaptions("The Winner Is:", Game.PlayerName.at(winner));
+    ShowAllMarkers(false);
+    FillAllMarkers(Game.PlayerColor.at(winner));
+    const bool isComputer = Game.PlayerKind.at(winner) != Humanoid;
+    PlaySound(NextSound(isComputer ? Game.ComputerWinSounds : Game.HumanWinSounds));
+}
+
+void ShowDraw() {
+    ShowCaptions("It's A Draw.", "");
+    FillAllMarkers(Black);
+    PlaySound(NextSound(Game.DrawSounds));
+}
+
+void Blink(MarkerPair pair) {
+    ShowMarkers(pair, true);
+    Delay(BlinkStep);
+    ShowMarkers(pair, false);
+}
+
+} // namespace
+
+void ShowGameOver() {
+    Game.GameOverShown = true;
+    if (const int winner = Winner(); winner != 0)
+        ShowWinner(winner);
+    else
+        ShowDraw();
+    for (int round = 0; round < BlinkRounds; ++round) {
+        Blink(MarkerPair::First);
+        Blink(MarkerPair::Second);
+    }
+    ShowAllMarkers(true);
+    CloseSound();
+    Game.GameOverShown = false;
+}

@@ -1,0 +1,131 @@
+#include "core/play/pointer_input.h"
+
+#include <cmath>
+
+#include "ai/move_selection.h"
+#include "core/state/game_state.h"
+#include "display/field.h"
+
+namespace {
+
+// Distances in pixels. The two bounds along a line differ on purpose.
+constexpr int Reach = 4;         // from the row or column of points, and outside the field
+constexpr int ClearOfFirst = 7;  // from a line's first point
+constexpr int ClearOfSecond = 6; // from its second point
+
+bool PersonIsAwaited() {
+    return Game.GameInPlay && !Game.GamePaused && !Game.QuitRequested && !Game.MouseDownSeen &&
+           IsPlayer(Game.CurrentPlayer) && Game.PlayerKind.at(Game.CurrentPlayer) == Humanoid;
+}
+
+void EraseShownGhostLine() {
+    if (Game.GhostLine <= 0)
+        return;
+    if (Game.Lines.at(Game.GhostLine).Drawn == 0)
+        EraseGhostLine(Game.GhostLine);
+    Game.GhostLine = 0;
+}
+
+void RestoreComputerLine() {
+    if (Game.ComputerGhostLine <= 0)
+        return;
+    DrawLine(Game.ComputerGhostLine, Game.PointColor);
+    Game.ComputerGhostLine = 0;
+}
+
+// One coordinate of the pointer within the field.
+struct CellPosition {
+    int Cell;   // from 1
+    int Offset; // whole pixels from the cell's first points
+    int Size;   // of the cell, in pixels
+
+    bool IsAtPoints() const { return Offset <= Reach || Offset >= Size - Reach; }
+    bool IsClearOfPoints() const {
+        return Offset >= ClearOfFirst && Offset <= Size - ClearOfSecond;
+    }
+    int NearestPoints() const { return Offset >= Size - Reach ? Cell + 1 : Cell; }
+};
+
+bool IsInReach(float position, int first, int last, int pixel) {
+    const auto reach = static_cast<float>(Reach * pixel);
+    return position > static_cast<float>(first) - reach &&
+           position < static_cast<float>(last) + reach;
+}
+
+CellPosition Locate(float position, int first, int last, int spacing, int pixel) {
+    if (position <= static_cast<float>(first))
+        position = static_cast<float>(first + pixel);
+    if (position >= static_cast<float>(last))
+        position = static_cast<float>(last - pixel);
+    const double inside = static_cast<double>(position) - first;
+    return {static_cast<int>((inside + spacing) / spacing),
+            RoundToInteger(std::fmod(inside, spacing) / pixel), spacing / pixel};
+}
+
+// The line at (x, y), drawn or not; 0 = none. The horizontal one is tried first and wins.
+int LineAt(float x, float y) {
+    if (!IsInReach(x, Game.FieldLeft, Game.FieldRight, Game.TwipsPerPixelX) ||
+        !IsInReach(y, Game.FieldTop, Game.FieldBottom, Game.TwipsPerPixelY))
+        return 0;
+    const CellPosition across =
+        Locate(x, Game.FieldLeft, Game.FieldRight, Game.PointSpacingX, Game.TwipsPerPixelX);
+    const CellPosition down =
+        Locate(y, Game.FieldTop, Game.FieldBottom, Game.PointSpacingY, Game.TwipsPerPixelY);
+    if (across.IsClearOfPoints() && down.IsAtPoints())
+        return (down.NearestPoints() - 1) * FieldColumns() + across.Cell;
+    if (down.IsClearOfPoints() && across.IsAtPoints())
+        return Game.HorizontalLineCount + (across.NearestPoints() - 1) * FieldRows() + down.Cell;
+    return 0;
+}
+
+void PreviewLine(int line) {
+    if (line == 0 || Game.Lines.at(line).Drawn != 0)
+        return;
+    Game.GhostLine = ToInteger(line);
+    DrawGhostLine(line, Game.GhostColor);
+}
+
+// The line that a computer would draw in the person's place.
+int AskComputerForHint() {
+    Game.HintMode = true;
+    try {
+        ChooseComputerMove();
+    } catch (...) {
+        Game.HintMode = false;
+        Game.ChosenLine = 0;
+        throw;
+    }
+    Game.HintMode = false;
+    const int hint = Game.ChosenLine;
+    Game.ChosenLine = 0;
+    return hint;
+}
+
+} // namespace
+
+void ShowGhostLine(float x, float y) {
+    if (Game.HintMode)
+        return;
+    EraseShownGhostLine();
+    RestoreComputerLine();
+    if (PersonIsAwaited() && TablesMatchField())
+        PreviewLine(LineAt(x, y));
+}
+
+void PressGhostLine() {
+    if (!PersonIsAwaited() || Game.GhostLine <= 0)
+        return;
+    Game.ChosenLine = Game.GhostLine;
+    Game.GhostLine = 0;
+    Game.MouseDownSeen = true;
+}
+
+void ShowHint() {
+    if (!PersonIsAwaited() || Game.HintMode || Game.ChosenLine != 0)
+        return;
+    EraseShownGhostLine();
+    const int hint = AskComputerForHint();
+    // On a large field the choice yields, and the person may have paused or quit meanwhile.
+    if (PersonIsAwaited())
+        PreviewLine(hint);
+}

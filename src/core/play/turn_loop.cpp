@@ -1,0 +1,170 @@
+#include "core/play/turn_loop.h"
+
+#include <algorithm>
+
+#include "ai/move_selection.h"
+#include "base/random.h"
+#include "core/play/game_over.h"
+#include "core/play/game_setup.h"
+#include "core/rules/moves.h"
+#include "core/rules/pacing.h"
+#include "core/state/game_state.h"
+#include "display/command_states.h"
+#include "display/field.h"
+#include "display/status_panel.h"
+#include "platform/desktop.h"
+#include "platform/picture.h"
+
+namespace {
+
+enum class LoopEnd { BoardFull, Paused, Quit, ProgramEnding };
+
+bool IsPersonsTurn() {
+    return Game.PlayerKind.at(Game.CurrentPlayer) == Humanoid;
+}
+
+bool PersonIsToMove() {
+    return Game.ChosenLine == 0 && !Game.GamePaused && !Game.QuitRequested && IsPersonsTurn() &&
+           !Game.ProgramEnding;
+}
+
+// Sleeps until a press on the field has chosen a line, or a command or dialog ends the wait.
+void WaitForPerson() {
+    Game.MouseDownSeen = false;
+    while (PersonIsToMove())
+        YieldToEvents(Forever);
+    Game.MouseDownSeen = true;
+    if (Game.GhostLine > 0) {
+        EraseGhostLine(Game.GhostLine);
+        Game.GhostLine = 0;
+    }
+}
+
+void AskPerson() {
+    if (PersonIsToMove())
+        EnterPhase(Phase::PersonToMove);
+    frmQuibsMain.picPlayingField.MousePointer = PointerShape::Default;
+    WaitForPerson();
+    StateOf(Command::Hint).Enabled = false;
+}
+
+void AskComputer() {
+    frmQuibsMain.picPlayingField.MousePointer = PointerShape::Hourglass;
+    ChooseComputerMove();
+    // The players dialog may have given the turn to a person meanwhile, who chooses for himself.
+    if (IsPersonsTurn())
+        Game.ChosenLine = 0;
+}
+
+void NextTurn() {
+    Game.ChosenLine = 0;
+    if (IsPersonsTurn())
+        AskPerson();
+    else
+        AskComputer();
+}
+
+bool NoLineIsLeft() {
+    return std::none_of(Game.Lines.begin() + 1, Game.Lines.end(),
+                        [](const Line& line) { return line.Drawn == 0; });
+}
+
+void DrawFirstPlayer() {
+    Game.CurrentPlayer = RandomPick(2);
+}
+
+// Draws who begins, and lets a computer wait so that its first line does not come at once.
+void BeginFirstTurn() {
+    DrawFirstPlayer();
+    ShowTurn(Game.CurrentPlayer);
+    if (!IsPersonsTurn())
+        Delay(2);
+}
+
+void ResumeTurn() {
+    Game.GamePaused = false;
+    if (!IsPlayer(Game.CurrentPlayer))
+        DrawFirstPlayer();
+    ShowTurn(Game.CurrentPlayer);
+}
+
+LoopEnd PlayTurns() {
+    if (Game.QuitRequested)
+        return LoopEnd::Quit;
+    while (Game.BoxesClaimed < Game.BoxCount) {
+        if (!Game.ProgramEnding)
+            NextTurn();
+        if (Game.ProgramEnding)
+            return LoopEnd::ProgramEnding;
+        if (Game.QuitRequested)
+            return LoopEnd::Quit;
+        if (Game.GamePaused)
+            return LoopEnd::Paused;
+        if (Game.ChosenLine != 0)
+            ApplyMove();
+        else if (NoLineIsLeft())
+            break;
+        else
+            YieldToEvents(0);
+    }
+    return LoopEnd::BoardFull;
+}
+
+void EndLoop(LoopEnd end) {
+    Game.GameInPlay = false;
+    switch (end) {
+    case LoopEnd::BoardFull:
+        Game.GamePaused = false;
+        Game.QuitRequested = false;
+        EnterPhase(Phase::Idle);
+        ShowGameOver();
+        break;
+    case LoopEnd::Paused:
+        ShowGamePaused();
+        EnterPhase(Phase::Paused);
+        break;
+    case LoopEnd::Quit:
+        AbandonGame();
+        break;
+    case LoopEnd::ProgramEnding:
+        break;
+    }
+}
+
+} // namespace
+
+void PlayGame() {
+    if (Game.GameInPlay)
+        return;
+    Game.GameInPlay = true;
+    Game.MouseDownSeen = true;
+    EnterPhase(Phase::ComputerToMove);
+    try {
+        if (Game.GamePaused)
+            ResumeTurn();
+        else
+            BeginFirstTurn();
+        EndLoop(PlayTurns());
+    } catch (...) {
+        AbandonGame();
+        throw;
+    }
+}
+
+void AbandonGame() {
+    EnterPhase(Phase::Idle);
+    Game.GameInPlay = false;
+    Game.GamePaused = false;
+    Game.QuitRequested = false;
+    Game.GameOverShown = false;
+    Game.CommandAfterGameOver.reset();
+    ShowCaptions("", "");
+    ForgetTurn();
+    Game.PlayerScore = {};
+    ShowPlayerStatus(1);
+    ShowPlayerStatus(2);
+    Game.BoxCount = 0;
+    Game.LineCount = 0;
+    ClearCounters();
+    ClearPicture();
+}

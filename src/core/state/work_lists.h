@@ -1,0 +1,22 @@
+// The working lists of the computer players. Nothing in them outlives one choice of a line.
+#pragma once
+
+#include "base/counted_list.h"
+
+// An undrawn line that gives boxes away, and how many.
+struct RiskyLine {
+    Integer Line = 0;
+    Integer Size = 0;
+};
+
+struct WorkLists {
+    CountedList<Integer> ChainLines;     // capture lines found on one side; also the safe lines
+    CountedList<Integer> ChainTailLines; // capture lines found on the other side
+    CountedList<Integer> ChainBoxes;     // boxes that a line would let the opponent take, in order
+    CountedList<RiskyLine> RiskyLines;
+};
+
+extern WorkLists Work;
+
+// Sizes and empties the lists for the board of `Game`.
+void SizeWorkLists();

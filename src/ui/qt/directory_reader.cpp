@@ -1,0 +1,90 @@
+#include "ui/qt/directory_reader.h"
+
+#include <QFile>
+#include <algorithm>
+#include <filesystem>
+#include <sys/eventfd.h>
+#include <thread>
+#include <unistd.h>
+
+namespace {
+
+// Shared by the window and the thread that reads. The thread knows nothing else, so that it may
+// outlive the window, and even the program's end.
+struct Reading {
+    std::filesystem::path Directory;
+    DirectoryContents Contents;
+    int Event = eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK);
+
+    Reading() = default;
+    Reading(const Reading&) = delete;
+    Reading& operator=(const Reading&) = delete;
+    ~Reading() { close(Event); }
+};
+
+void ReadEntry(const std::filesystem::directory_entry& entry, DirectoryContents& contents) {
+    std::error_code unreadable;
+    const QString name = QFile::decodeName(entry.path().filename().c_str());
+    if (name.endsWith(".qbs", Qt::CaseInsensitive) && entry.is_regular_file(unreadable))
+        contents.Games.append(name);
+    else if (!name.startsWith('.') && entry.is_directory(unreadable))
+        contents.Directories.append(name);
+}
+
+void ReadDirectory(Reading& reading) {
+    std::error_code unreadable;
+    std::filesystem::directory_iterator entry(reading.Directory, unreadable);
+    for (; !unreadable && entry != std::filesystem::directory_iterator();
+         entry.increment(unreadable))
+        ReadEntry(*entry, reading.Contents);
+    reading.Contents.Directories.sort(Qt::CaseInsensitive);
+    reading.Contents.Games.sort(Qt::CaseInsensitive);
+    const std::uint64_t done = 1;
+    [[maybe_unused]] const ssize_t written = write(reading.Event, &done, sizeof done);
+}
+
+// In the system's table of mounts blanks stand as octal numbers.
+QString Unescape(const QByteArray& text) {
+    QByteArray plain = text;
+    plain.replace("\\040", " ")
+        .replace("\\011", "\t")
+        .replace("\\012", "\n")
+        .replace("\\134", "\\");
+    return QFile::decodeName(plain);
+}
+
+// Mounts of the system's own, like /proc, have no device behind them.
+bool IsDrive(const QByteArray& device, const QByteArray& type) {
+    return device.startsWith('/') || type.startsWith("nfs") || type == "cifs" ||
+           type.startsWith("fuse.ssh");
+}
+
+} // namespace
+
+void DirectoryReader::Read(const QString& directory) {
+    auto reading = std::make_shared<Reading>();
+    reading->Directory = QFile::encodeName(directory).toStdString();
+    Waiting = std::make_unique<QSocketNotifier>(reading->Event, QSocketNotifier::Read);
+    connect(Waiting.get(), &QSocketNotifier::activated, this, [this, reading] {
+        Waiting->setEnabled(false);
+        emit Done(reading->Contents);
+    });
+    std::thread([reading] { ReadDirectory(*reading); }).detach();
+}
+
+QStringList MountedDrives() {
+    QStringList drives{"/"};
+    QFile table("/proc/self/mounts");
+    if (!table.open(QIODevice::ReadOnly))
+        return drives;
+    for (const QByteArray& line : table.readAll().split('\n')) {
+        const QList<QByteArray> columns = line.split(' ');
+        if (columns.size() < 3 || !IsDrive(columns.at(0), columns.at(2)))
+            continue;
+        const QString drive = Unescape(columns.at(1));
+        if (!drives.contains(drive))
+            drives.append(drive);
+    }
+    std::sort(drives.begin(), drives.end());
+    return drives;
+}

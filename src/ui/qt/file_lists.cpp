@@ -1,0 +1,128 @@
+#include "ui/qt/file_lists.h"
+
+#include <QComboBox>
+#include <QDir>
+#include <QGridLayout>
+#include <QKeyEvent>
+#include <QListWidget>
+#include <QStyle>
+
+namespace {
+
+constexpr int PathRole = Qt::UserRole;
+constexpr QSize SmallestList(220, 190); // pixels
+
+template <class List>
+List* Named(List* list, const char* objectName, const char* accessibleName) {
+    list->setObjectName(objectName);
+    list->setAccessibleName(accessibleName);
+    return list;
+}
+
+QListWidget* MakeList(QWidget* parent, const char* objectName, const char* accessibleName) {
+    auto* list = Named(new QListWidget(parent), objectName, accessibleName);
+    list->setMinimumSize(SmallestList);
+    list->setUniformItemSizes(true);
+    return list;
+}
+
+// The mounted drive that a directory lies on.
+QString DriveOf(const QString& directory, const QComboBox* drives) {
+    QString longest = "/";
+    for (int i = 0; i < drives->count(); ++i) {
+        const QString drive = drives->itemText(i);
+        if ((directory + '/').startsWith(drive + '/') && drive.size() > longest.size())
+            longest = drive;
+    }
+    return longest;
+}
+
+} // namespace
+
+FileLists::FileLists(QWidget* parent)
+    : QWidget(parent), drvDriveList(Named(new QComboBox(this), "drvDriveList", "Drives")),
+      dirDirectoryList(MakeList(this, "dirDirectoryList", "Directories")),
+      filFileList(MakeList(this, "filFileList", "Saved games")) {
+    auto* grid = new QGridLayout(this);
+    grid->setContentsMargins(0, 0, 0, 0);
+    grid->addWidget(drvDriveList, 0, 0);
+    grid->addWidget(dirDirectoryList, 1, 0);
+    grid->addWidget(filFileList, 0, 1, 2, 1);
+    dirDirectoryList->installEventFilter(this);
+    filFileList->installEventFilter(this);
+    const int iconSize = style()->pixelMetric(QStyle::PM_SmallIconSize);
+    dirDirectoryList->setIconSize(QSize(iconSize, iconSize));
+
+    connect(&Reader, &DirectoryReader::Done, this, &FileLists::ShowContents);
+    connect(drvDriveList, &QComboBox::textActivated, this, &FileLists::ShowDirectory);
+    connect(dirDirectoryList, &QListWidget::itemDoubleClicked, this, &FileLists::EnterDirectory);
+    const auto passOn = [this] {
+        for (const QListWidgetItem* selected : filFileList->selectedItems())
+            emit GameClicked(selected->text());
+    };
+    connect(filFileList, &QListWidget::itemSelectionChanged, this, passOn);
+    connect(filFileList, &QListWidget::itemClicked, this, passOn); // that was selected already
+    connect(filFileList, &QListWidget::itemDoubleClicked, this, &FileLists::GameDoubleClicked);
+}
+
+void FileLists::Load() {
+    drvDriveList->clear();
+    drvDriveList->addItems(MountedDrives());
+    const QString current = QDir::currentPath();
+    drvDriveList->setCurrentText(DriveOf(current, drvDriveList));
+    ShowDirectory(current);
+    filFileList->setFocus();
+}
+
+bool FileLists::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() != QEvent::KeyPress)
+        return QWidget::eventFilter(watched, event);
+    const int key = static_cast<QKeyEvent*>(event)->key();
+    // Return enters the directory; it must not reach the dialog's Ok.
+    if (watched == dirDirectoryList && (key == Qt::Key_Return || key == Qt::Key_Enter)) {
+        EnterDirectory(dirDirectoryList->currentItem());
+        return true;
+    }
+    // The first press goes to the first game; by itself the list would pass it over.
+    if (watched == filFileList && key == Qt::Key_Down && filFileList->selectedItems().isEmpty()) {
+        filFileList->setCurrentRow(0);
+        return true;
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+void FileLists::ShowDirectory(const QString& directory) {
+    ShownDirectory = directory;
+    filFileList->clear();
+    dirDirectoryList->clear();
+    // The way from the root, one step deeper each.
+    AddDirectory("/", "/", 0);
+    QString path;
+    int depth = 0;
+    for (const QString& name : directory.split('/', Qt::SkipEmptyParts)) {
+        path += '/' + name;
+        AddDirectory(path, name, ++depth);
+    }
+    dirDirectoryList->setCurrentRow(depth);
+    Reader.Read(directory);
+}
+
+void FileLists::ShowContents(const DirectoryContents& contents) {
+    const int depth = dirDirectoryList->count();
+    const QString parent = ShownDirectory.endsWith('/') ? ShownDirectory : ShownDirectory + '/';
+    for (const QString& name : contents.Directories)
+        AddDirectory(parent + name, name, depth);
+    filFileList->addItems(contents.Games);
+}
+
+void FileLists::AddDirectory(const QString& path, const QString& name, int depth) {
+    constexpr qsizetype blanksPerStep = 3;
+    auto* item = new QListWidgetItem(QString(depth * blanksPerStep, ' ') + name, dirDirectoryList);
+    item->setIcon(style()->standardIcon(QStyle::SP_DirIcon));
+    item->setData(PathRole, path);
+}
+
+void FileLists::EnterDirectory(const QListWidgetItem* item) {
+    if (item != nullptr)
+        ShowDirectory(item->data(PathRole).toString());
+}

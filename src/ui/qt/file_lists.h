@@ -1,0 +1,43 @@
+// The lists of drives, directories and saved games that both file dialogs show. Each follows the
+// one before it.
+#pragma once
+
+#include <QWidget>
+
+#include "ui/qt/directory_reader.h"
+
+class QComboBox;
+class QListWidget;
+class QListWidgetItem;
+
+class FileLists : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit FileLists(QWidget* parent);
+
+    // Begins again at the current directory, with the focus on its games.
+    void Load();
+
+    // The directory whose games are listed.
+    QString Directory() const { return ShownDirectory; }
+
+signals:
+    void GameClicked(const QString& name);
+    void GameDoubleClicked();
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void ShowDirectory(const QString& directory);
+    void ShowContents(const DirectoryContents& contents);
+    void AddDirectory(const QString& path, const QString& name, int depth);
+    void EnterDirectory(const QListWidgetItem* item);
+
+    QComboBox* drvDriveList;
+    QListWidget* dirDirectoryList;
+    QListWidget* filFileList;
+    DirectoryReader Reader;
+    QString ShownDirectory;
+};

@@ -1,0 +1,49 @@
+#include "ui/qt/form_dialog.h"
+
+#include <QHBoxLayout>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include "ui/commands.h"
+
+FormDialog::FormDialog(QWidget* parent, const char* objectName, const char* caption)
+    : QDialog(parent) {
+    setObjectName(objectName);
+    setWindowTitle(caption);
+}
+
+void FormDialog::OpenOrRaise() {
+    if (!isVisible()) {
+        Load();
+        show();
+    }
+    raise();
+    activateWindow();
+}
+
+void FormDialog::SetContent(QLayout* content) {
+    auto* cmdOk = new QPushButton("Ok", this);
+    cmdOk->setObjectName("cmdOk");
+    cmdOk->setDefault(true);
+    auto* cmdCancel = new QPushButton("Cancel", this);
+    cmdCancel->setObjectName("cmdCancel");
+    cmdCancel->setAutoDefault(false);
+    connect(cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
+    connect(cmdOk, &QPushButton::clicked, this, &FormDialog::Ok);
+
+    auto* buttons = new QHBoxLayout;
+    buttons->addStretch();
+    buttons->addWidget(cmdOk);
+    buttons->addWidget(cmdCancel);
+    auto* all = new QVBoxLayout(this);
+    all->setSpacing(16);
+    all->addLayout(content);
+    all->addLayout(buttons);
+}
+
+void FormDialog::Ok() {
+    bool isDone = true;
+    RunGuarded([&] { isDone = Store(); });
+    if (isDone)
+        accept();
+}

@@ -1,0 +1,100 @@
+#include "ui/qt/grid_dialog.h"
+
+#include <QComboBox>
+#include <QGridLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <algorithm>
+
+#include "core/play/game_setup.h"
+#include "core/state/game_state.h"
+#include "display/field.h"
+#include "ui/qt/swatch.h"
+
+namespace {
+
+constexpr int FewestBoxes = 2;
+
+void FillBoxCounts(QComboBox* list, int mostBoxes, int selected) {
+    list->clear();
+    for (int boxes = FewestBoxes; boxes <= mostBoxes; ++boxes)
+        list->addItem(QString::number(boxes));
+    if (list->count() > 0)
+        list->setCurrentIndex(std::clamp(selected - FewestBoxes, 0, list->count() - 1));
+}
+
+// Where nothing fits the list is empty, and the setting stays.
+void StoreBoxCount(const QComboBox* list, Integer& setting) {
+    if (list->count() > 0)
+        setting = ToInteger(list->currentText().toInt());
+}
+
+} // namespace
+
+GridDialog::GridDialog(QWidget* parent)
+    : FormDialog(parent, "frmDefineGrid", "Define Playing Grid") {
+    auto* grid = new QGridLayout;
+    grid->setHorizontalSpacing(12);
+    comFieldBoxesHorz =
+        AddBoxCount(grid, 0, "FieldBoxesHorz", "Number of Horizontal Boxes to Form");
+    comFieldBoxesVert = AddBoxCount(grid, 1, "FieldBoxesVert", "Number of Vertical Boxes to Form");
+    grid->setRowMinimumHeight(2, 12);
+    shpGridBckGrnd = AddColor(grid, 3, "GridBckGrnd", "Color of Background");
+    shpGridLine = AddColor(grid, 4, "GridLine", "Color of Quibs and Lines");
+    shpGridGhost = AddColor(grid, 5, "GridGhost", "Color of Ghost Line");
+    shpGridComputer = AddColor(grid, 6, "GridComputer", "Color of Computer Ghost Line");
+    grid->setColumnStretch(0, 1);
+    SetContent(grid);
+    layout()->setSizeConstraint(QLayout::SetFixedSize);
+}
+
+QComboBox* GridDialog::AddBoxCount(QGridLayout* grid, int row, const char* name,
+                                   const char* caption) {
+    auto* label = new QLabel(caption, this);
+    label->setObjectName(QString("lbl") + name);
+    auto* list = new QComboBox(this);
+    list->setObjectName(QString("com") + name);
+    list->setAccessibleName(caption);
+    label->setBuddy(list);
+    grid->addWidget(label, row, 0);
+    grid->addWidget(list, row, 1, 1, 2);
+    return list;
+}
+
+Swatch* GridDialog::AddColor(QGridLayout* grid, int row, const char* name, const char* caption) {
+    auto* label = new QLabel(caption, this);
+    label->setObjectName(QString("lbl") + name);
+    auto* swatch = new Swatch(QString("shp") + name, caption, this);
+    auto* button = new QPushButton("Color", this);
+    button->setObjectName(QString("cmd") + name);
+    button->setAccessibleName(QString("Choose the ") + caption);
+    button->setAutoDefault(false);
+    connect(button, &QPushButton::clicked, this, [swatch] { PickColor(swatch); });
+    grid->addWidget(label, row, 0);
+    grid->addWidget(swatch, row, 1);
+    grid->addWidget(button, row, 2);
+    return swatch;
+}
+
+void GridDialog::Load() {
+    shpGridBckGrnd->SetFillColor(Game.BackgroundColor);
+    shpGridComputer->SetFillColor(Game.ComputerGhostColor);
+    shpGridLine->SetFillColor(Game.PointColor);
+    shpGridGhost->SetFillColor(Game.GhostColor);
+    FitGridToPicture();
+    FillBoxCounts(comFieldBoxesHorz, ColumnsThatFit(), Game.GridColumns);
+    FillBoxCounts(comFieldBoxesVert, RowsThatFit(), Game.GridRows);
+    comFieldBoxesHorz->setFocus();
+}
+
+bool GridDialog::Store() {
+    Game.SettingsChanged = true;
+    Game.BackgroundColor = shpGridBckGrnd->FillColor();
+    frmQuibsMain.picPlayingField.BackColor = Game.BackgroundColor;
+    Game.ComputerGhostColor = shpGridComputer->FillColor();
+    Game.GhostColor = shpGridGhost->FillColor();
+    Game.PointColor = shpGridLine->FillColor();
+    StoreBoxCount(comFieldBoxesHorz, Game.GridColumns);
+    StoreBoxCount(comFieldBoxesVert, Game.GridRows);
+    return true;
+}

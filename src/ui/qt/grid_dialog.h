@@ -1,0 +1,31 @@
+// Sets the size of the next game's grid and the colours of the field.
+#pragma once
+
+#include "base/integer.h"
+#include "ui/qt/form_dialog.h"
+
+class QComboBox;
+class QGridLayout;
+class Swatch;
+
+class GridDialog : public FormDialog {
+    Q_OBJECT
+
+public:
+    explicit GridDialog(QWidget* parent);
+
+protected:
+    void Load() override;
+    bool Store() override;
+
+private:
+    QComboBox* AddBoxCount(QGridLayout* grid, int row, const char* name, const char* caption);
+    Swatch* AddColor(QGridLayout* grid, int row, const char* name, const char* caption);
+
+    QComboBox* comFieldBoxesHorz;
+    QComboBox* comFieldBoxesVert;
+    Swatch* shpGridBckGrnd;
+    Swatch* shpGridLine;
+    Swatch* shpGridGhost;
+    Swatch* shpGridComputer;
+};

@@ -1,0 +1,53 @@
+#include "ui/qt/help_viewer.h"
+
+#include <QFile>
+#include <QHBoxLayout>
+#include <QPushButton>
+#include <QTextBrowser>
+#include <QVBoxLayout>
+
+#include "core/state/game_state.h"
+#include "ui/qt/rich_text_view.h"
+
+namespace {
+
+constexpr QSize InitialSize(620, 460); // pixels
+
+RichText ReadDocument(const QString& fileName) {
+    QFile file(fileName);
+    if (!file.open(QIODevice::ReadOnly))
+        return {};
+    const QByteArray bytes = file.read(LargestRichText + 1);
+    return ReadRichText({bytes.constData(), static_cast<std::size_t>(bytes.size())});
+}
+
+} // namespace
+
+HelpViewer::HelpViewer(QWidget* parent) : QDialog(parent), rtfHelp(new QTextBrowser(this)) {
+    setObjectName("frmHelp");
+    setWindowTitle("Quiblink Help");
+    rtfHelp->setObjectName("rtfHelp");
+    rtfHelp->setAccessibleName("Document");
+    auto* cmdOk = new QPushButton("Ok", this);
+    cmdOk->setObjectName("cmdOk");
+    cmdOk->setDefault(true);
+    connect(cmdOk, &QPushButton::clicked, this, &QDialog::accept);
+
+    auto* buttons = new QHBoxLayout;
+    buttons->addStretch();
+    buttons->addWidget(cmdOk);
+    auto* all = new QVBoxLayout(this);
+    all->addWidget(rtfHelp);
+    all->addLayout(buttons);
+    resize(InitialSize);
+}
+
+void HelpViewer::OpenOrRaise() {
+    setWindowTitle(Game.ShowHistory ? "Quiblink History" : "Quiblink Help");
+    ShowRichText(ReadDocument(Game.ShowHistory ? "qblnkhst.rtf" : "quiblnk.rtf"),
+                 *rtfHelp->document());
+    rtfHelp->moveCursor(QTextCursor::Start);
+    show();
+    raise();
+    activateWindow();
+}

@@ -1,0 +1,266 @@
+#include "ui/qt/main_window.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QCloseEvent>
+#include <QMenuBar>
+#include <QScreen>
+#include <QToolBar>
+#include <cmath>
+
+#include "core/state/game_state.h"
+#include "display/command_states.h"
+#include "display/field.h"
+#include "platform/qt/field_picture.h"
+#include "platform/qt/qt_desktop.h"
+#include "ui/commands.h"
+#include "ui/qt/file_dialogs.h"
+#include "ui/qt/grid_dialog.h"
+#include "ui/qt/help_viewer.h"
+#include "ui/qt/players_dialog.h"
+#include "ui/qt/playing_field.h"
+#include "ui/qt/status_frame.h"
+#include "ui/qt/svg_icon.h"
+#include "ui/window_layout.h"
+
+namespace {
+
+constexpr QSize InitialSize(640, 580);
+constexpr QSize RoomForFrame(80, 80); // a centred window keeps its title and borders on the screen
+constexpr int IconSize = 24;
+constexpr int SmallestPictureSpacings = 3;
+
+int ToPixels(int twips, int twipsPerPixel) {
+    return static_cast<int>(std::lround(static_cast<double>(twips) / twipsPerPixel));
+}
+
+QRect ToPixels(const Rectangle& twips) {
+    return {ToPixels(twips.Left, Game.TwipsPerPixelX), ToPixels(twips.Top, Game.TwipsPerPixelY),
+            ToPixels(twips.Width, Game.TwipsPerPixelX),
+            ToPixels(twips.Height, Game.TwipsPerPixelY)};
+}
+
+} // namespace
+
+MainWindow::MainWindow()
+    : tbrToolBar(new QToolBar(this)), ClientArea(new QWidget(this)),
+      picPlayingField(new PlayingField(ClientArea)), fraStatistics(new StatusFrame(ClientArea)),
+      frmFileOpen(new OpenDialog(this)), frmFileSave(new SaveDialog(this)),
+      frmDefineGrid(new GridDialog(this)), frmDefinePlayers(new PlayersDialog(this)),
+      frmHelp(new HelpViewer(this)) {
+    setObjectName("frmQuibsMain");
+    setWindowTitle("Quiblink");
+    setWindowIcon(ColoredIcon(":/icons/quiblink.svg"));
+    setCentralWidget(ClientArea);
+    ClientArea->installEventFilter(this);
+    BuildMenus();
+    BuildToolBar();
+    UseMainWindow({.ShowControls = [this] { ShowControls(); },
+                   .ShowForm = [this](Form form) { ShowForm(form); },
+                   .Place = [this](WindowPlace place) { Place(place); }});
+    connect(picPlayingField, &PlayingField::PictureOutdated, this, &MainWindow::LayOut,
+            Qt::QueuedConnection);
+}
+
+void MainWindow::Open() {
+    RunGuarded(Form_Load);
+    ShowControls();
+    show();
+}
+
+void MainWindow::EndProgram() {
+    Form_Unload();
+    QApplication::closeAllWindows();
+}
+
+void MainWindow::closeEvent(QCloseEvent* event) {
+    event->accept();
+    if (!Game.ProgramEnding)
+        EndProgram();
+}
+
+bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == ClientArea && event->type() == QEvent::Resize)
+        LayOut();
+    return QMainWindow::eventFilter(watched, event);
+}
+
+void MainWindow::BuildMenus() {
+    QMenu* file = menuBar()->addMenu("&File");
+    AddCommand(file, Command::Open, "mnuOpen", "&Open", "Ctrl+O");
+    AddCommand(file, Command::Save, "mnuSave", "&Save", "Ctrl+S");
+    file->addSeparator();
+    AddCommand(file, Command::Exit, "mnuExit", "E&xit", "Ctrl+X");
+
+    QMenu* game = menuBar()->addMenu("&Game");
+    AddCommand(game, Command::Start, "mnuStart", "S&tart", "Ctrl+T");
+    AddCommand(game, Command::Auto, "mnuAuto", "&Auto", "Ctrl+A");
+    AddCommand(game, Command::Draw, "mnuDraw", "&Draw", "Ctrl+D");
+    AddCommand(game, Command::Exchange, "mnuExchange", "Exchan&ge", "Ctrl+G");
+    game->addSeparator();
+    AddCommand(game, Command::Hint, "mnuHint", "H&int", "Ctrl+I");
+    game->addSeparator();
+    AddCommand(game, Command::Pause, "mnuPause", "Pa&use", "Ctrl+U");
+    game->addSeparator();
+    AddCommand(game, Command::Quit, "mnuQuit", "&Quit", "Ctrl+Q");
+
+    QMenu* options = menuBar()->addMenu("&Options");
+    AddCommand(options, Command::Grid, "mnuGrid", "G&rid", "Ctrl+R");
+    AddCommand(options, Command::Players, "mnuPlayers", "&Players", "Ctrl+P");
+    AddCommand(options, Command::Sound, "mnuSound", "&Sound", "Ctrl+N")->setCheckable(true);
+
+    QMenu* help = menuBar()->addMenu("&Help");
+    AddCommand(help, Command::QuibsHelp, "mnuQuibsHelp", "Quibs &Help", "Ctrl+H");
+    AddCommand(help, Command::History, "mnuHistory", "Quibs Histor&y", "Ctrl+Y");
+    help->addSeparator();
+    AddCommand(help, Command::About, "mnuAbout", "A&bout", "Ctrl+B");
+}
+
+QAction* MainWindow::AddCommand(QMenu* menu, Command command, const char* objectName,
+                                const char* caption, const char* shortcut) {
+    QAction* action = menu->addAction(caption);
+    action->setObjectName(objectName);
+    action->setShortcut(QKeySequence(shortcut));
+    action->setAutoRepeat(false);
+    connect(action, &QAction::triggered, this, [this, command] { PostCommand(command); });
+    Actions.at(static_cast<std::size_t>(command)) = action;
+    return action;
+}
+
+QAction* MainWindow::ActionOf(Command command) const {
+    return Actions.at(static_cast<std::size_t>(command));
+}
+
+void MainWindow::BuildToolBar() {
+    tbrToolBar->setObjectName("tbrToolBar");
+    tbrToolBar->setWindowTitle("Toolbar");
+    tbrToolBar->setMovable(false);
+    tbrToolBar->setContextMenuPolicy(Qt::PreventContextMenu);
+    setContextMenuPolicy(Qt::NoContextMenu); // it would offer to hide the toolbar
+    tbrToolBar->setIconSize(QSize(IconSize, IconSize));
+    addToolBar(tbrToolBar);
+
+    const auto addButton = [this](Command command, const char* icon, const char* toolTip) {
+        QAction* action = ActionOf(command);
+        action->setIcon(LineIcon(QString(":/icons/%1.svg").arg(icon)));
+        action->setIconVisibleInMenu(false);
+        action->setToolTip(toolTip);
+        tbrToolBar->addAction(action);
+    };
+    addButton(Command::Open, "open", "Open a Saved Game");
+    addButton(Command::Save, "save", "Save Game");
+    tbrToolBar->addSeparator();
+    addButton(Command::Start, "start", "Start/Resume Game");
+    addButton(Command::Pause, "pause", "Pause Game");
+    addButton(Command::Quit, "quit", "Quit Game");
+    tbrToolBar->addSeparator();
+    addButton(Command::Auto, "auto", "Auto Start Game");
+    addButton(Command::Draw, "draw", "Draw Game Grid");
+    tbrToolBar->addSeparator();
+    addButton(Command::Exchange, "exchange", "Exchange Players");
+    tbrToolBar->addSeparator();
+    addButton(Command::Hint, "hint", "Get a Hint");
+}
+
+void MainWindow::Place(WindowPlace place) {
+    setMinimumSize(fraStatistics->width() + ToPixels(FrameMargin, Game.TwipsPerPixelX),
+                   SmallestHeight());
+    const QScreen* screen = QApplication::primaryScreen();
+    const QRect area = screen->geometry();
+    resize(InitialSize.boundedTo(screen->availableSize() - RoomForFrame));
+    if (place == WindowPlace::Centred) {
+        move(area.left() + (area.width() - width()) / 2,
+             area.top() + (area.height() - height()) / 2);
+    } else {
+        move(area.topLeft());
+        setWindowState(Qt::WindowMaximized);
+    }
+    connect(screen, &QScreen::availableGeometryChanged, this, &MainWindow::KeepOnScreen);
+}
+
+void MainWindow::KeepOnScreen(const QRect& workArea) {
+    if (isMaximized() || isFullScreen())
+        return; // the desktop keeps such a window on the screen, and moving it would end that state
+    QRect frame = frameGeometry();
+    const QSize borders = frame.size() - size();
+    if (workArea.height() < frame.height()) {
+        frame.setTop(workArea.top());
+        frame.setHeight(workArea.height());
+    }
+    if (workArea.width() < frame.width()) {
+        frame.setLeft(workArea.left());
+        frame.setWidth(workArea.width());
+    }
+    move(frame.topLeft());
+    resize(frame.size() - borders);
+}
+
+int MainWindow::SmallestHeight() const {
+    const int picture = SmallestPictureSpacings * PixelsBetweenPoints;
+    return menuBar()->sizeHint().height() + tbrToolBar->sizeHint().height() + picture +
+           fraStatistics->height() + ToPixels(BottomMargin, Game.TwipsPerPixelY) + 1;
+}
+
+void MainWindow::LayOut() {
+    if (ClientArea->width() <= 0)
+        return;
+    if (ClientArea->width() < fraStatistics->width())
+        resize(fraStatistics->width() + ToPixels(FrameMargin, Game.TwipsPerPixelX), height());
+    const int toolbarHeight = tbrToolBar->height();
+    const WindowLayout layout = LayOutWindow(
+        ClientArea->width() * Game.TwipsPerPixelX,
+        (ClientArea->height() + toolbarHeight) * Game.TwipsPerPixelY,
+        toolbarHeight * Game.TwipsPerPixelY, fraStatistics->width() * Game.TwipsPerPixelX,
+        fraStatistics->height() * Game.TwipsPerPixelY);
+    fraStatistics->move(ToPixels(layout.Frame).topLeft() - QPoint(0, toolbarHeight));
+    picPlayingField->setGeometry(ToPixels(layout.Picture).translated(0, -toolbarHeight));
+    TheFieldPicture.Resize(picPlayingField->size(), devicePixelRatioF());
+    RunGuarded([this] {
+        if (Form_Resize())
+            QMetaObject::invokeMethod(
+                this, [] { RunGuarded(ShowResizeWarning); }, Qt::QueuedConnection);
+    });
+}
+
+void MainWindow::ShowControls() {
+    if (Shown == frmQuibsMain)
+        return;
+    Shown = frmQuibsMain;
+    for (std::size_t i = 0; i < CommandCount; ++i) {
+        Actions.at(i)->setEnabled(Shown.Commands.at(i).Enabled);
+        if (Actions.at(i)->isCheckable())
+            Actions.at(i)->setChecked(Shown.Commands.at(i).Checked);
+    }
+    // A game may neither be opened nor saved any more: a dialog left open must not do it either.
+    if (!IsEnabled(Command::Open))
+        frmFileOpen->reject();
+    if (!IsEnabled(Command::Save))
+        frmFileSave->reject();
+    picPlayingField->ShowControls();
+    fraStatistics->ShowControls();
+}
+
+void MainWindow::PostCommand(Command command) {
+    const auto run = [this, command] {
+        RunGuarded([command] { RunCommand(command); });
+        ShowControls();
+        if (Game.ProgramEnding)
+            EndProgram();
+    };
+    QMetaObject::invokeMethod(this, run, Qt::QueuedConnection);
+}
+
+void MainWindow::ShowForm(Form form) {
+    switch (form) {
+    case Form::FileOpen:
+        return frmFileOpen->OpenOrRaise();
+    case Form::FileSave:
+        return frmFileSave->OpenOrRaise();
+    case Form::DefineGrid:
+        return frmDefineGrid->OpenOrRaise();
+    case Form::DefinePlayers:
+        return frmDefinePlayers->OpenOrRaise();
+    case Form::Help:
+        return frmHelp->OpenOrRaise();
+    }
+}

@@ -1,0 +1,62 @@
+// The main window: menus, toolbar, playing field and status frame. It shows the controls' data and
+// forwards every event; the rules are elsewhere.
+#pragma once
+
+#include <QMainWindow>
+#include <array>
+
+#include "platform/controls.h"
+#include "platform/desktop.h"
+
+class FormDialog;
+class HelpViewer;
+class PlayingField;
+class QAction;
+class QMenu;
+class StatusFrame;
+
+class MainWindow : public QMainWindow {
+    Q_OBJECT
+
+public:
+    MainWindow();
+
+    // Loads the game's settings, places the window on its screen and shows it.
+    void Open();
+
+    // Ends the program: the game unwinds and every window closes.
+    void EndProgram();
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void BuildMenus();
+    void BuildToolBar();
+    QAction* AddCommand(QMenu* menu, Command command, const char* objectName, const char* caption,
+                        const char* shortcut);
+    QAction* ActionOf(Command command) const;
+
+    void Place(WindowPlace place);
+    void KeepOnScreen(const QRect& workArea);
+    int SmallestHeight() const;
+    void LayOut();
+    void ShowControls();
+
+    // Commands run from the event queue, never inside a menu's or button's own handler.
+    void PostCommand(Command command);
+    void ShowForm(Form form);
+
+    std::array<QAction*, CommandCount> Actions{};
+    QToolBar* tbrToolBar;
+    QWidget* ClientArea;
+    PlayingField* picPlayingField;
+    StatusFrame* fraStatistics;
+    FormDialog* frmFileOpen;
+    FormDialog* frmFileSave;
+    FormDialog* frmDefineGrid;
+    FormDialog* frmDefinePlayers;
+    HelpViewer* frmHelp;
+    MainWindowControls Shown;
+};

@@ -1,0 +1,124 @@
+#include "ui/qt/players_dialog.h"
+
+#include <QButtonGroup>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QVBoxLayout>
+#include <array>
+
+#include "display/status_panel.h"
+#include "ui/qt/swatch.h"
+
+namespace {
+
+constexpr int NameWidth = 180; // pixels
+constexpr int SwatchSpacing = 8;
+
+struct KindOption {
+    Integer Kind;
+    const char* ObjectName; // of player %1
+    const char* Caption;
+};
+
+constexpr std::array KindOptions{
+    KindOption{Humanoid, "optPlayer%1Humanoid", "Humanoid"},
+    KindOption{ComputerAverage, "optPlayer%1Average", "Computer Average"},
+    KindOption{ComputerIntelligent, "optPlayer%1Intelligent", "Computer Intelligent"},
+    KindOption{ComputerCheat, "optPlayer%1Cheat", "Computer Cheat"}};
+
+// The Tab key goes to the option that is checked, and passes the others.
+void CheckKind(const QButtonGroup* kinds, int kind) {
+    for (QAbstractButton* option : kinds->buttons()) {
+        const bool isChosen = kinds->id(option) == kind;
+        option->setChecked(isChosen);
+        option->setFocusPolicy(isChosen ? Qt::StrongFocus : Qt::ClickFocus);
+    }
+}
+
+} // namespace
+
+PlayersDialog::PlayersDialog(QWidget* parent)
+    : FormDialog(parent, "frmDefinePlayers", "Define Players") {
+    auto* grid = new QGridLayout;
+    grid->setHorizontalSpacing(24);
+    Players.at(1) = AddPlayer(grid, 1);
+    Players.at(2) = AddPlayer(grid, 2);
+    SetContent(grid);
+    layout()->setSizeConstraint(QLayout::SetFixedSize);
+}
+
+PlayersDialog::PlayerControls PlayersDialog::AddPlayer(QGridLayout* grid, int player) {
+    PlayerControls controls{};
+    const QString number = QString::number(player);
+    auto* label = new QLabel(QString("Name of Player %1:").arg(number), this);
+    label->setObjectName(QString("lblPlayer%1Name").arg(number));
+    controls.txtName = new QLineEdit(this);
+    controls.txtName->setObjectName(QString("txtPlayer%1Name").arg(number));
+    controls.txtName->setMinimumWidth(NameWidth);
+    label->setBuddy(controls.txtName);
+    controls.shpColor = new Swatch(QString("shpPlayer%1Color").arg(number),
+                                   QString("Color of player %1").arg(number), this);
+    auto* button = new QPushButton("Color...", this);
+    button->setObjectName(QString("cmdPlayer%1Color").arg(number));
+    button->setAccessibleName(QString("Choose the color of player %1").arg(number));
+    button->setAutoDefault(false);
+    connect(button, &QPushButton::clicked, this,
+            [swatch = controls.shpColor] { PickColor(swatch); });
+
+    controls.Kinds = new QButtonGroup(this);
+    auto* color = new QHBoxLayout;
+    color->setSpacing(SwatchSpacing);
+    color->addWidget(controls.shpColor);
+    color->addWidget(button);
+    color->addStretch();
+    const int column = player - 1;
+    grid->addWidget(label, 0, column);
+    grid->addWidget(controls.txtName, 1, column);
+    grid->addLayout(color, 2, column);
+    grid->addWidget(AddKinds(player, controls.Kinds), 3, column);
+    return controls;
+}
+
+QGroupBox* PlayersDialog::AddKinds(int player, QButtonGroup* kinds) {
+    auto* frame = new QGroupBox("Type of Player", this);
+    frame->setObjectName(QString("fraPlayer%1SkillLevel").arg(player));
+    auto* options = new QVBoxLayout(frame);
+    for (const KindOption& kind : KindOptions) {
+        auto* option = new QRadioButton(kind.Caption, frame);
+        option->setObjectName(QString(kind.ObjectName).arg(player));
+        kinds->addButton(option, kind.Kind);
+        options->addWidget(option);
+    }
+    return frame;
+}
+
+void PlayersDialog::Load() {
+    for (const int player : {1, 2}) {
+        const PlayerControls& controls = Players.at(player);
+        controls.txtName->setText(QString::fromStdString(Game.PlayerName.at(player)));
+        controls.shpColor->SetFillColor(Game.PlayerColor.at(player));
+        const Integer kind = Game.PlayerKind.at(player);
+        const bool isKnown = kind >= Humanoid && kind <= ComputerCheat;
+        CheckKind(controls.Kinds, isKnown ? kind : Humanoid);
+    }
+    Players.at(1).txtName->setFocus();
+    Players.at(1).txtName->selectAll();
+}
+
+bool PlayersDialog::Store() {
+    Game.SettingsChanged = true;
+    for (const int player : {1, 2}) {
+        const PlayerControls& controls = Players.at(player);
+        // As displayed: the text itself keeps pasted line breaks.
+        Game.PlayerName.at(player) = controls.txtName->displayText().toStdString();
+        Game.PlayerColor.at(player) = controls.shpColor->FillColor();
+        Game.PlayerKind.at(player) = ToInteger(controls.Kinds->checkedId());
+    }
+    ShowPlayerStatus(1);
+    ShowPlayerStatus(2);
+    return true;
+}

@@ -1,0 +1,33 @@
+// Sets the name, the colour and the kind of each player, also while a game is under way.
+#pragma once
+
+#include "core/state/game_state.h"
+#include "ui/qt/form_dialog.h"
+
+class QButtonGroup;
+class QGroupBox;
+class QLineEdit;
+class Swatch;
+
+class PlayersDialog : public FormDialog {
+    Q_OBJECT
+
+public:
+    explicit PlayersDialog(QWidget* parent);
+
+protected:
+    void Load() override;
+    bool Store() override;
+
+private:
+    struct PlayerControls {
+        QLineEdit* txtName;
+        Swatch* shpColor;
+        QButtonGroup* Kinds; // the options by kind
+    };
+
+    PlayerControls AddPlayer(QGridLayout* grid, int player);
+    QGroupBox* AddKinds(int player, QButtonGroup* kinds);
+
+    PerPlayer<PlayerControls> Players;
+};
