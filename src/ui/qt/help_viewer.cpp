@@ -1,11 +1,11 @@
 #include "ui/qt/help_viewer.h"
 
-#include <QFile>
 #include <QHBoxLayout>
 #include <QPushButton>
 #include <QTextBrowser>
 #include <QVBoxLayout>
 
+#include "base/files.h"
 #include "core/state/game_state.h"
 #include "ui/qt/rich_text_view.h"
 
@@ -13,12 +13,8 @@ namespace {
 
 constexpr QSize InitialSize(620, 460); // pixels
 
-RichText ReadDocument(const QString& fileName) {
-    QFile file(fileName);
-    if (!file.open(QIODevice::ReadOnly))
-        return {};
-    const QByteArray bytes = file.read(LargestRichText + 1);
-    return ReadRichText({bytes.constData(), static_cast<std::size_t>(bytes.size())});
+RichText ReadDocument(const char* name) {
+    return ReadRichText(ReadRegularFile(name, LargestRichText + 1).value_or(""));
 }
 
 } // namespace
