@@ -27,7 +27,7 @@ HelpViewer::HelpViewer(QWidget* parent) : QDialog(parent), rtfHelp(new QTextBrow
     auto* cmdOk = new QPushButton("Ok", this);
     cmdOk->setObjectName("cmdOk");
     cmdOk->setDefault(true);
-    connect(cmdOk, &QPushButton::clicked, this, &QDialog::accept);
+    connect(cmdOk, &QPushButton::clicked, this, &HelpViewer::cmdOk_Click);
 
     auto* buttons = new QHBoxLayout;
     buttons->addStretch();
@@ -39,11 +39,15 @@ HelpViewer::HelpViewer(QWidget* parent) : QDialog(parent), rtfHelp(new QTextBrow
 }
 
 void HelpViewer::OpenOrRaise() {
+    Form_Load();
+    show();
+    raise();
+    activateWindow();
+}
+
+void HelpViewer::Form_Load() {
     setWindowTitle(Game.ShowHistory ? "Quiblink History" : "Quiblink Help");
     ShowRichText(ReadDocument(Game.ShowHistory ? "qblnkhst.rtf" : "quiblnk.rtf"),
                  *rtfHelp->document());
     rtfHelp->moveCursor(QTextCursor::Start);
-    show();
-    raise();
-    activateWindow();
 }
