@@ -112,6 +112,7 @@ void ReadTable(std::vector<Row>& table, int lastRow) {
 void ForgetLines() {
     Game.LastLine = 0;
     Game.GhostLine = 0;
+    Game.LastGhostLine = 0;
     Game.ComputerGhostLine = 0;
     Game.ChosenLine = 0;
 }

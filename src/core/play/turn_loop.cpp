@@ -6,11 +6,11 @@
 #include "base/random.h"
 #include "core/play/game_over.h"
 #include "core/play/game_setup.h"
+#include "core/play/pointer_input.h"
 #include "core/rules/moves.h"
 #include "core/rules/pacing.h"
 #include "core/state/game_state.h"
 #include "display/command_states.h"
-#include "display/field.h"
 #include "display/status_panel.h"
 #include "platform/desktop.h"
 #include "platform/picture.h"
@@ -34,10 +34,7 @@ void WaitForPerson() {
     while (PersonIsToMove())
         YieldToEvents(Forever);
     Game.MouseDownSeen = true;
-    if (Game.GhostLine > 0) {
-        EraseGhostLine(Game.GhostLine);
-        Game.GhostLine = 0;
-    }
+    RemoveGhostLine();
 }
 
 void AskPerson() {
