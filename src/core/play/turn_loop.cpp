@@ -1,6 +1,7 @@
 #include "core/play/turn_loop.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "ai/move_selection.h"
 #include "base/random.h"
@@ -34,6 +35,8 @@ void WaitForPerson() {
     while (PersonIsToMove())
         YieldToEvents(Forever);
     Game.MouseDownSeen = true;
+    if (Game.GamePaused && Game.ChosenLine > 0)
+        Game.GhostLine = std::exchange(Game.ChosenLine, Integer{0}); // a press that is not played
     RemoveGhostLine();
 }
 
