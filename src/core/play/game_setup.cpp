@@ -23,9 +23,8 @@ void NewGame() {
     Game.BoxCount = ToInteger(columns * rows);
     PlaceField(columns, rows);
 
-    Game.Boxes.assign(static_cast<std::size_t>(Game.BoxCount) + 1, Box{});
-    Game.Lines.assign(static_cast<std::size_t>(Game.LineCount) + 1, Line{});
-    SizeWorkLists();
+    SizeBoxTables();
+    SizeLineTables();
     Game.BoxesClaimed = 0;
     Game.LinesDrawn = 0;
     BuildField();
@@ -45,5 +44,6 @@ void ForgetTurn() {
     Game.LastGhostLine = 0;
     Game.ChosenLine = 0;
     Game.LastLine = 0;
+    Game.Told = {};
     ShowAllMarkers(false);
 }

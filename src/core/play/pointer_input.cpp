@@ -5,6 +5,7 @@
 #include "ai/move_selection.h"
 #include "core/state/game_state.h"
 #include "display/field.h"
+#include "display/news.h"
 
 namespace {
 
@@ -82,6 +83,7 @@ void PreviewInstead(int line) {
     RemoveGhostLine();
     RestoreComputerLine();
     PreviewLine(line);
+    TellGhostLine();
 }
 
 template <class Step>
@@ -150,4 +152,6 @@ void ShowHint() {
     // On a large field the choice yields, and the person may have paused or quit meanwhile.
     if (PersonIsAwaited())
         PreviewLine(hint);
+    Game.Told.GhostLine = 0; // a hint is told even if it is the line shown before
+    TellGhostLine();
 }
