@@ -81,7 +81,7 @@ void MakeFieldAccessible() {
 }
 
 void SayAtField(PlayingField* field, const QString& text) {
-    auto* accessible = static_cast<AccessibleField*>(QAccessible::queryAccessibleInterface(field));
+    auto* accessible = dynamic_cast<AccessibleField*>(QAccessible::queryAccessibleInterface(field));
     if (accessible == nullptr)
         return;
     QAccessibleEvent event(field, QAccessible::Focus);

@@ -12,13 +12,13 @@
 #include "ui/qt/accessible_field.h"
 
 PlayingField::PlayingField(QWidget* parent) : QWidget(parent) {
+    MakeFieldAccessible(); // before a name is set, which a screen reader asks for at once
     setObjectName("picPlayingField");
     setAccessibleName("Playing field");
     setAccessibleDescription(
         "Point at the gap between two points and press to draw a line; or the arrow keys move the "
         "ghost line, Space turns it, Return draws it.");
     setFocusPolicy(Qt::StrongFocus);
-    MakeFieldAccessible();
     setAttribute(Qt::WA_OpaquePaintEvent);
     setMouseTracking(true);
     TheFieldPicture.WhenChanged = [this](const QRect& changed) { update(changed); };
