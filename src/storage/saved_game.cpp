@@ -97,16 +97,17 @@ std::string GameAsText() {
 
 constexpr auto Read = [](auto& value) { ReadValue(value); };
 
-// The table grows with what the file really holds, whatever count it claims.
+// Row 0 stands for none, whatever the file holds there.
 template <class Row>
-void ReadTable(std::vector<Row>& table, int lastRow) {
-    if (lastRow < 0)
-        throw std::runtime_error("a table cannot have so few rows");
-    table = std::vector<Row>(1);
-    VisitRow(table.front(), Read);
+void ReadTable(std::vector<Row>& table) {
+    for (Row& row : table)
+        VisitRow(row, Read);
     table.front() = Row{};
-    for (int row = 1; row <= lastRow; ++row)
-        VisitRow(table.emplace_back(), Read);
+}
+
+void RequireRows(Integer count) {
+    if (count < 0)
+        throw std::runtime_error("a table cannot have so few rows");
 }
 
 // Nothing may point into tables that are about to be replaced.
@@ -126,10 +127,13 @@ void ReadGame(const Grid& grid) {
     Game.GridRows = grid.Rows;
     VisitPlayersAndEdges(Read);
     Read(Game.BoxCount);
-    ReadTable(Game.Boxes, Game.BoxCount);
+    RequireRows(Game.BoxCount);
+    SizeBoxTables();
+    ReadTable(Game.Boxes);
     VisitLineCounts(Read);
-    ReadTable(Game.Lines, Game.LineCount);
-    SizeWorkLists();
+    RequireRows(Game.LineCount);
+    SizeLineTables();
+    ReadTable(Game.Lines);
 }
 
 void ShowLoadedGame() {

@@ -110,6 +110,8 @@ LoopEnd PlayTurns() {
             return LoopEnd::ProgramEnding;
         if (Game.QuitRequested)
             return LoopEnd::Quit;
+        if (Game.BoxesClaimed >= Game.BoxCount)
+            break; // the cheat drew the last box itself, and no pause holds up the end
         if (Game.GamePaused)
             return LoopEnd::Paused;
         if (Game.ChosenLine != 0)

@@ -50,7 +50,7 @@ struct Box {
 // Up to ten wave files, played in turn over successive games.
 struct SoundList {
     std::vector<std::string> Names; // position 1 is Names.at(0)
-    Integer Next = 0;               // position played last, 0 = none yet
+    Integer Next = 0;               // the one behind this position plays next; 0 = no files
 
     bool operator==(const SoundList&) const = default;
 };

@@ -51,9 +51,9 @@ void PlayingField::paintEvent(QPaintEvent* /*event*/) {
         emit PictureOutdated();
     QPainter painter(this);
     painter.fillRect(rect(), ToQColor(frmQuibsMain.picPlayingField.BackColor));
-    const QImage& image = TheFieldPicture.Image();
     const qreal ratio = TheFieldPicture.PixelRatio();
-    painter.drawImage(QRectF(0, 0, image.width() / ratio, image.height() / ratio), image);
+    for (const QImage* layer : TheFieldPicture.Layers())
+        painter.drawImage(QRectF(0, 0, layer->width() / ratio, layer->height() / ratio), *layer);
 }
 
 void PlayingField::mousePressEvent(QMouseEvent* /*event*/) {
