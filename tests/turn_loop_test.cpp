@@ -103,6 +103,7 @@ void ExpectPaused() {
     EXPECT_EQ(EnabledCommands(), Paused);
     EXPECT_EQ(Captions(), Game.PlayerName.at(Game.CurrentPlayer) + "'s Turn|GAME PAUSED");
     EXPECT_EQ(VisibleMarkers() + Game.GhostLine, 0);
+    EXPECT_NE(TheNullDesktop.Drawings.back().DrawnColor, Game.GhostColor) << "left painted";
     AfterSeconds(0, [drawn = Game.LinesDrawn] { EXPECT_GE(Game.LinesDrawn, drawn) << "resumed"; });
 }
 
@@ -138,6 +139,10 @@ const Event Events[] = {
     {"a person", ExpectPlayedToTheEnd, {}, {[] { Game.PlayerKind.at(1) = Humanoid; }}},
     {"a computer", ExpectPlayedToTheEnd, {}, {[] { Game.PlayerKind.at(1) = ComputerAverage; }}},
     {"a pause", ExpectPaused, {}, {PointAtFirstLine, mnuPause_Click, mnuPause_Click}},
+    {"a press that a pause overtakes",
+     ExpectPaused,
+     {},
+     {PointAtFirstLine, picPlayingField_MouseDown, mnuPause_Click}},
     {"Quit", ExpectGivenUp, {Yes}, {mnuQuit_Click}},
     {"Quit after a pause", ExpectGivenUp, {Yes}, {mnuPause_Click, mnuQuit_Click}},
     {"a failure", ExpectGivenUp, {Ok}, {Fail}},
