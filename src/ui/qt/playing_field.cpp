@@ -41,13 +41,13 @@ std::optional<FieldKey> FieldKeyOf(const QKeyEvent& event) {
 } // namespace
 
 PlayingField::PlayingField(QWidget* parent) : QWidget(parent) {
+    MakeFieldAccessible(); // before a name is set, which a screen reader asks for at once
     setObjectName("picPlayingField");
     setAccessibleName("Playing field");
     setAccessibleDescription(
         "Point at the gap between two points and press to draw a line; or the arrow keys move the "
         "ghost line, Space turns it, Return draws it.");
     setFocusPolicy(Qt::StrongFocus);
-    MakeFieldAccessible();
     setAttribute(Qt::WA_OpaquePaintEvent);
     setMouseTracking(true);
     TheFieldPicture.WhenChanged = [this](const QRect& changed) { update(changed); };
