@@ -25,6 +25,11 @@ std::string KindWord(int kind) {
     }
 }
 
+Label TurnCaption(int player) {
+    const std::string& name = Game.PlayerName.at(player);
+    return {name + "'s Turn", name.size()};
+}
+
 std::string CounterText(const char* name, int count, int total) {
     return name + NumberField(count) + " of " + NumberField(total);
 }
@@ -32,10 +37,11 @@ std::string CounterText(const char* name, int count, int total) {
 } // namespace
 
 void ShowPlayerStatus(int player) {
-    const std::string status = Game.PlayerName.at(player) + ": " +
-                               NumberField(Game.PlayerScore.at(player)) + std::string(5, ' ') +
-                               KindWord(Game.PlayerKind.at(player));
-    (player == 1 ? frmQuibsMain.txtPlayer1Status : frmQuibsMain.txtPlayer2Status).Text = status;
+    const std::string& name = Game.PlayerName.at(player);
+    const std::string status = name + ": " + NumberField(Game.PlayerScore.at(player)) +
+                               std::string(5, ' ') + KindWord(Game.PlayerKind.at(player));
+    (player == 1 ? frmQuibsMain.txtPlayer1Status : frmQuibsMain.txtPlayer2Status) = {status,
+                                                                                     name.size()};
     ShowPlayerColor(player);
 }
 
@@ -57,27 +63,25 @@ void ClearCounters() {
     frmQuibsMain.txtLinesStatus.Text.clear();
 }
 
-std::string TurnText(int player) {
-    return Game.PlayerName.at(player) + "'s Turn";
-}
-
 void ShowTurn(int player) {
     if (!IsPlayer(player))
         return;
-    ShowCaptions(player == 1 ? TurnText(1) : "", player == 2 ? TurnText(2) : "");
+    ShowCaptions(player == 1 ? TurnCaption(1) : Label{}, player == 2 ? TurnCaption(2) : Label{},
+                 player);
     ShowMarkers(MarkerPair::First, false);
     Shape& marker = player == 1 ? frmQuibsMain.shpPlayer1Active : frmQuibsMain.shpPlayer2Active;
     marker = {Game.PlayerColor.at(player), true};
 }
 
 void ShowGamePaused() {
-    ShowCaptions(TurnText(Game.CurrentPlayer), "GAME PAUSED");
+    ShowCaptions(TurnCaption(Game.CurrentPlayer), {"GAME PAUSED"}, Game.CurrentPlayer);
     ShowMarkers(MarkerPair::First, false);
 }
 
-void ShowCaptions(const std::string& first, const std::string& second) {
-    frmQuibsMain.lblPlayer1Active.Caption = first;
-    frmQuibsMain.lblPlayer2Active.Caption = second;
+void ShowCaptions(const Label& first, const Label& second, int markedPlayer) {
+    frmQuibsMain.lblPlayer1Active = first;
+    frmQuibsMain.lblPlayer2Active = second;
+    frmQuibsMain.fraStatistics.MarkedPlayer = markedPlayer;
 }
 
 void ShowMarkers(MarkerPair pair, bool visible) {
