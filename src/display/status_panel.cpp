@@ -26,8 +26,7 @@ std::string KindWord(int kind) {
 }
 
 Label TurnCaption(int player) {
-    const std::string& name = Game.PlayerName.at(player);
-    return {name + "'s Turn", name.size()};
+    return {TurnText(player), Game.PlayerName.at(player).size()};
 }
 
 std::string CounterText(const char* name, int count, int total) {
@@ -63,6 +62,10 @@ void ClearCounters() {
     frmQuibsMain.txtLinesStatus.Text.clear();
 }
 
+std::string TurnText(int player) {
+    return Game.PlayerName.at(player) + "'s Turn";
+}
+
 void ShowTurn(int player) {
     if (!IsPlayer(player))
         return;
@@ -78,10 +81,21 @@ void ShowGamePaused() {
     ShowMarkers(MarkerPair::First, false);
 }
 
+<<<<<<< HEAD
 void ShowCaptions(const Label& first, const Label& second, int markedPlayer) {
     frmQuibsMain.lblPlayer1Active = first;
     frmQuibsMain.lblPlayer2Active = second;
     frmQuibsMain.fraStatistics.MarkedPlayer = markedPlayer;
+=======
+std::string OutcomeText() {
+    const std::string& winner = frmQuibsMain.lblPlayer2Active.Caption;
+    return frmQuibsMain.lblPlayer1Active.Caption + (winner.empty() ? "" : " " + winner);
+}
+
+void ShowCaptions(const std::string& first, const std::string& second) {
+    frmQuibsMain.lblPlayer1Active.Caption = first;
+    frmQuibsMain.lblPlayer2Active.Caption = second;
+>>>>>>> main
 }
 
 void ShowMarkers(MarkerPair pair, bool visible) {
