@@ -17,24 +17,34 @@ QRgb Opaque(Color color) {
     return ToQColor(color).rgb();
 }
 
+QImage BlankImage(QSize pixels) {
+    QImage image(pixels, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    return image;
+}
+
+QSize ImageSize(QSize logicalSize, qreal pixelRatio) {
+    return {static_cast<int>(std::ceil(logicalSize.width() * pixelRatio)),
+            static_cast<int>(std::ceil(logicalSize.height() * pixelRatio))};
+}
+
 } // namespace
 
 void FieldPicture::Resize(QSize logicalSize, qreal screenPixelRatio) {
-    if (logicalSize == Size && screenPixelRatio == Ratio)
-        return;
-    const QSize screenSize(static_cast<int>(std::ceil(logicalSize.width() * screenPixelRatio)),
-                           static_cast<int>(std::ceil(logicalSize.height() * screenPixelRatio)));
-    QImage resized(screenSize, QImage::Format_ARGB32_Premultiplied);
-    resized.fill(Qt::transparent);
-    if (!Pixels.isNull() && screenPixelRatio == Ratio)
-        QPainter(&resized).drawImage(0, 0, Pixels);
-    Pixels = resized;
     Size = logicalSize;
-    Ratio = screenPixelRatio;
+    ScreenRatio = screenPixelRatio;
+    const QSize needed = ImageSize(Size, Ratio).expandedTo(Pixels.size());
+    if (needed == Pixels.size())
+        return;
+    QImage grown = BlankImage(needed);
+    if (!Pixels.isNull())
+        QPainter(&grown).drawImage(0, 0, Pixels);
+    Pixels = grown;
 }
 
 void FieldPicture::Clear() {
-    Pixels.fill(Qt::transparent);
+    Ratio = ScreenRatio;
+    Pixels = BlankImage(ImageSize(Size, Ratio));
     WhenChanged(QRect(QPoint(), Size));
 }
 

@@ -11,12 +11,16 @@ public:
     void SetScale(QSize twipsPerPixel) { TwipsPerPixel = twipsPerPixel; }
 
     // Takes the size in logical pixels and the screen pixels to one of them. What was drawn stays
-    // where it was, as far as it fits.
+    // where and as it was until the picture is cleared, also what lies outside meanwhile.
     void Resize(QSize logicalSize, qreal screenPixelRatio);
 
-    const QImage& Image() const { return Pixels; }
     // Inner size in twips, 0 to 32767.
     QSize SizeInTwips() const;
+    // The screen pixels that the window asked for.
+    qreal ScreenPixelRatio() const { return ScreenRatio; }
+
+    const QImage& Image() const { return Pixels; }
+    // The pixels of the image to one logical pixel.
     qreal PixelRatio() const { return Ratio; }
 
     void Clear();
@@ -28,8 +32,9 @@ public:
     std::function<void(const QRect&)> WhenChanged = [](const QRect&) {};
 
 private:
-    QImage Pixels;
     QSize Size;
+    qreal ScreenRatio = 1;
+    QImage Pixels; // at least as large as the picture
     qreal Ratio = 1;
     QSize TwipsPerPixel{1, 1};
 };

@@ -24,12 +24,14 @@ void PlayingField::ShowControls() {
 }
 
 void PlayingField::paintEvent(QPaintEvent* /*event*/) {
-    if (TheFieldPicture.PixelRatio() != devicePixelRatioF())
+    if (TheFieldPicture.ScreenPixelRatio() != devicePixelRatioF())
         emit PictureOutdated();
     QPainter painter(this);
     painter.fillRect(rect(), ToQColor(frmQuibsMain.picPlayingField.BackColor));
     const QImage& image = TheFieldPicture.Image();
     const qreal ratio = TheFieldPicture.PixelRatio();
+    // A picture that was drawn for a screen of another scale loses no line.
+    painter.setRenderHint(QPainter::SmoothPixmapTransform, ratio != devicePixelRatioF());
     painter.drawImage(QRectF(0, 0, image.width() / ratio, image.height() / ratio), image);
 }
 
