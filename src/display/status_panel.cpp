@@ -75,6 +75,11 @@ void ShowGamePaused() {
     ShowMarkers(MarkerPair::First, false);
 }
 
+std::string OutcomeText() {
+    const std::string& winner = frmQuibsMain.lblPlayer2Active.Caption;
+    return frmQuibsMain.lblPlayer1Active.Caption + (winner.empty() ? "" : " " + winner);
+}
+
 void ShowCaptions(const std::string& first, const std::string& second) {
     frmQuibsMain.lblPlayer1Active.Caption = first;
     frmQuibsMain.lblPlayer2Active.Caption = second;

@@ -23,6 +23,9 @@ void ShowTurn(int player);
 // `CurrentPlayer` is neither 1 nor 2.
 void ShowGamePaused();
 
+// What the captions say at the end of a game: "The Winner Is: Colossus" or "It's A Draw.".
+std::string OutcomeText();
+
 void ShowCaptions(const std::string& first, const std::string& second);
 
 // The markers come in two pairs, which take turns when the end of a game blinks.

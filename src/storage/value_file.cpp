@@ -2,8 +2,6 @@
 
 #include <algorithm>
 #include <charconv>
-#include <filesystem>
-#include <fstream>
 #include <optional>
 #include <stdexcept>
 #include <string_view>
@@ -143,18 +141,12 @@ void AppendValue(std::string& text, bool value) {
 
 void WriteFile(const std::string& path, const std::string& text) {
     RequireFreeChannel();
-    std::error_code unreachable;
-    if (std::filesystem::exists(path, unreachable) && !FileExists(path))
-        throw std::runtime_error("a file cannot be opened");
-    std::ofstream file(path, std::ios::binary | std::ios::trunc);
-    if (!file.is_open())
-        throw std::runtime_error("a file cannot be opened");
+    FileReplacement file(path);
     TakeChannel();
-    file.write(text.data(), static_cast<std::streamsize>(text.size()));
-    file.close();
-    if (file.fail())
-        throw std::runtime_error("a file cannot be written");
+    const bool isWritten = file.Write(text);
     CloseChannel();
+    if (!isWritten)
+        throw std::runtime_error("a file cannot be made");
 }
 
 void CloseChannel() {

@@ -1,8 +1,10 @@
-// The image behind the playing field. It lies transparent over the background, so that a new
-// background shows under what is drawn, and keeps its drawing while the window is covered.
+// The images behind the playing field: lines and boxes, and above them the points, which nothing
+// that is drawn or erased can touch. They lie transparent over the background, so that a new
+// background shows under what is drawn, and keep their drawing while the window is covered.
 #pragma once
 
 #include <QImage>
+#include <array>
 #include <functional>
 
 class FieldPicture {
@@ -19,23 +21,31 @@ public:
     // The screen pixels that the window asked for.
     qreal ScreenPixelRatio() const { return ScreenRatio; }
 
-    const QImage& Image() const { return Pixels; }
-    // The pixels of the image to one logical pixel.
+    // From the lowest to the highest, all of one size, at least the picture's.
+    std::array<const QImage*, 2> Layers() const { return {&Lines, &Points}; }
+    // The pixels of the layers to one logical pixel.
     qreal PixelRatio() const { return Ratio; }
 
     void Clear();
 
-    // Fills whole screen pixels between two corners in twips, both included; 0 clears them.
-    void Fill(int left, int top, int right, int bottom, QRgb color);
+    // All take corners in twips, both included, and fill whole screen pixels; the colour 0 clears
+    // them. Dots and strokes have their middle where they are put and are odd numbers of screen
+    // pixels wide, so that they meet evenly at every scale. A dot ends before a box begins.
+    void FillDot(int x, int y, QRgb color);
+    void FillStroke(int fromX, int fromY, int toX, int toY, QRgb color);
+    void FillBox(int left, int top, int right, int bottom, QRgb color);
 
     // Called with the changed rectangle, in logical pixels.
     std::function<void(const QRect&)> WhenChanged = [](const QRect&) {};
 
 private:
+    QRect ToScreen(int left, int top, int right, int bottom) const;
+    void Fill(QImage& layer, const QRect& screenPixels, QRgb color);
+
     QSize Size;
     qreal ScreenRatio = 1;
-    QImage Pixels; // at least as large as the picture
-    qreal Ratio = 1;
+    QImage Lines, Points;
+    qreal Ratio = 1; // of the two
     QSize TwipsPerPixel{1, 1};
 };
 
