@@ -65,7 +65,7 @@ TEST(RichText, ReadsTextAndTablesEvenBrokenOnes) {
     } cases[] = {
         {"{\\rtf1 a \r\nb\\par\\\n}", "a b||"},
         {"{\\rtf1\\{\\}\\\\\\~\\bullet\\tab x}", "{}\\\u00A0\u2022\tx|"},
-        {"{\\rtf1\\'80\\'e9\\'93\\'zz}", "\u20AC\u00E9\u201Czz|"},
+        {"{\\rtf1\\'80\\'fE\\'Cf\\'93\\'zz}", "\u20AC\u00FE\u00CF\u201Czz|"},
         {"{\\rtf1\\uc1 \\u8364?\\u233\\'e9x}", "\u20AC\u00E9x|"},
         {"{\\rtf1\\uc2\\u945abc{\\uc0\\u946 d}\\u-10179??\\u-8704??\\u-8704??}",
          "\u03B1c\u03B2d\U0001F600\uFFFD|"},
