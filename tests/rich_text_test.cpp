@@ -48,14 +48,15 @@ TEST(RichText, ReadsTheFormatsOfRunsAndParagraphs) {
     EXPECT_EQ(first.Format.LeftIndent, 400);
     EXPECT_EQ(first.Format.FirstIndent, -400);
     EXPECT_EQ(first.Format.SpaceAfter, 31680); // 22 inches are the most
-    ASSERT_EQ(first.Runs.size(), 5u);
     const RichColor color{.Red = 1, .Green = 2, .Blue = 3};
-    EXPECT_EQ(first.Runs.at(0).Format, RichRunFormat{});
-    EXPECT_EQ(first.Runs.at(1).Format,
-              (RichRunFormat{.Bold = true, .Color = color, .HalfPoints = 30}));
-    EXPECT_EQ(first.Runs.at(2).Format, (RichRunFormat{.Color = color, .HalfPoints = 30}));
-    EXPECT_EQ(first.Runs.at(3).Format, (RichRunFormat{.Italic = true, .Underline = true}));
-    EXPECT_EQ(first.Runs.at(4).Format, RichRunFormat{}); // a colour that the table does not have
+    const std::vector<RichRunFormat> formats{{},
+                                             {.Bold = true, .Color = color, .HalfPoints = 30},
+                                             {.Color = color, .HalfPoints = 30},
+                                             {.Italic = true, .Underline = true},
+                                             {}}; // the last has a colour that is in no table
+    ASSERT_EQ(first.Runs.size(), formats.size());
+    for (std::size_t run = 0; run < formats.size(); ++run)
+        EXPECT_EQ(first.Runs.at(run).Format, formats.at(run)) << first.Runs.at(run).Text;
     EXPECT_EQ(std::get<RichParagraph>(document.at(1)).Format.LeftIndent, 0);
 }
 
