@@ -208,7 +208,7 @@ void mnuExchange_Click() {
     if (Game.GameInPlay || !Game.GamePaused || !IsPlayer(Game.CurrentPlayer))
         return;
     Game.CurrentPlayer = ToInteger(OtherPlayer(Game.CurrentPlayer));
-    frmQuibsMain.lblPlayer1Active.Caption = TurnText(Game.CurrentPlayer);
+    ShowGamePaused();
     TellNews();
 }
 
