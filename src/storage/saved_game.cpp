@@ -79,21 +79,6 @@ void WriteTable(std::vector<Row>& table, int lastRow, Visit write) {
         VisitRow(table.at(static_cast<std::size_t>(row)), write);
 }
 
-// The columns and rows are those on the field; the settings may be meant for the next game.
-std::string GameAsText() {
-    std::string text;
-    const auto write = [&text](const auto& value) { AppendValue(text, value); };
-    Grid grid{Game.PointSpacingX, Game.PointSpacingY, ToInteger(FieldColumns()),
-              ToInteger(FieldRows())};
-    VisitGrid(grid, write);
-    VisitPlayersAndEdges(write);
-    write(Game.BoxCount);
-    WriteTable(Game.Boxes, Game.BoxCount, write);
-    VisitLineCounts(write);
-    WriteTable(Game.Lines, Game.LineCount, write);
-    return text;
-}
-
 constexpr auto Read = [](auto& value) { ReadValue(value); };
 
 // The table grows with what the file really holds, whatever count it claims.
@@ -114,20 +99,6 @@ void ForgetLines() {
     Game.GhostLine = 0;
     Game.ComputerGhostLine = 0;
     Game.ChosenLine = 0;
-}
-
-void ReadGame(const Grid& grid) {
-    ForgetLines();
-    Game.PointSpacingX = grid.SpacingX;
-    Game.PointSpacingY = grid.SpacingY;
-    Game.GridColumns = grid.Columns;
-    Game.GridRows = grid.Rows;
-    VisitPlayersAndEdges(Read);
-    Read(Game.BoxCount);
-    ReadTable(Game.Boxes, Game.BoxCount);
-    VisitLineCounts(Read);
-    ReadTable(Game.Lines, Game.LineCount);
-    SizeWorkLists();
 }
 
 void ShowLoadedGame() {
@@ -153,6 +124,11 @@ Grid ReadGrid() {
 bool FitsOnPicture(const Grid& grid) {
     return grid.Columns <= BoxesThatFit(PictureWidth(), grid.SpacingX) &&
            grid.Rows <= BoxesThatFit(PictureHeight(), grid.SpacingY);
+}
+
+void RefuseGame(const std::string& path) {
+    ShowMessageBox("Window size is not large enough for:\r\n\n" + path, "Quibs Game Load Error",
+                   MessageIcon::Exclamation, MessageButtons::Ok);
 }
 
 bool MayReplace(const std::string& path) {
@@ -181,6 +157,39 @@ bool IsGameExtension(std::string extension) {
 
 } // namespace
 
+std::string GameAsText() {
+    std::string text;
+    const auto write = [&text](const auto& value) { AppendValue(text, value); };
+    // Those on the field; the settings may be meant for the next game.
+    Grid grid{Game.PointSpacingX, Game.PointSpacingY, ToInteger(FieldColumns()),
+              ToInteger(FieldRows())};
+    VisitGrid(grid, write);
+    VisitPlayersAndEdges(write);
+    write(Game.BoxCount);
+    WriteTable(Game.Boxes, Game.BoxCount, write);
+    VisitLineCounts(write);
+    WriteTable(Game.Lines, Game.LineCount, write);
+    return text;
+}
+
+bool ReadGame() {
+    const Grid grid = ReadGrid();
+    if (!FitsOnPicture(grid))
+        return false;
+    ForgetLines();
+    Game.PointSpacingX = grid.SpacingX;
+    Game.PointSpacingY = grid.SpacingY;
+    Game.GridColumns = grid.Columns;
+    Game.GridRows = grid.Rows;
+    VisitPlayersAndEdges(Read);
+    Read(Game.BoxCount);
+    ReadTable(Game.Boxes, Game.BoxCount);
+    VisitLineCounts(Read);
+    ReadTable(Game.Lines, Game.LineCount);
+    SizeWorkLists();
+    return true;
+}
+
 void SaveGame(const std::string& path) {
     if (FileExists(path) && !MayReplace(path))
         return;
@@ -194,16 +203,12 @@ void SaveGame(const std::string& path) {
 void LoadGame(const std::string& path) {
     try {
         OpenForInput(path);
-        const Grid grid = ReadGrid();
-        if (!FitsOnPicture(grid)) {
-            CloseChannel();
-            ShowMessageBox("Window size is not large enough for:\r\n\n" + path,
-                           "Quibs Game Load Error", MessageIcon::Exclamation, MessageButtons::Ok);
-            return;
-        }
-        ReadGame(grid);
+        const bool isTaken = ReadGame();
         CloseChannel();
-        ShowLoadedGame();
+        if (isTaken)
+            ShowLoadedGame();
+        else
+            RefuseGame(path);
     } catch (const std::exception&) {
         // Told to nobody; the file channel may stay taken.
     }

@@ -6,6 +6,7 @@
 #include <fstream>
 #include <stdexcept>
 #include <string_view>
+#include <utility>
 
 #include "base/files.h"
 #include "base/text_encoding.h"
@@ -27,8 +28,8 @@ struct FileChannel {
 
 FileChannel channel1;
 
-void TakeChannel() {
-    channel1 = {true, {}, 0};
+void TakeChannel(std::string text = {}) {
+    channel1 = {true, std::move(text), 0};
 }
 
 void RequireFreeChannel() {
@@ -106,6 +107,11 @@ void OpenForInput(const std::string& path) {
     channel1.Text.resize(static_cast<std::size_t>(size));
     file.read(channel1.Text.data(), static_cast<std::streamsize>(size));
     channel1.Text.resize(static_cast<std::size_t>(file.gcount()));
+}
+
+void OpenTextForInput(std::string text) {
+    RequireFreeChannel();
+    TakeChannel(std::move(text));
 }
 
 void ReadValue(Integer& value) {
