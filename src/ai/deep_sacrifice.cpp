@@ -21,34 +21,30 @@ void Swap(Integer& first, Integer& second) {
 
 // Margins are sums in different orders of the same few numbers.
 bool IsAsGood(double margin, double best) {
-    return margin > best - 1e-6;
+    return margin >= best - 1e-6;
 }
 
-// The lines of the rows in their order. Other procedures use the table while the search yields.
-std::vector<Integer> LinesOfRows() {
-    std::vector<Integer> lines;
-    for (const RiskyLine& row : Work.RiskyLines)
-        lines.push_back(row.Line);
-    return lines;
-}
-
-std::vector<double> JudgeLines(const std::vector<Integer>& lines) {
+// The margin that each row of the table leads to.
+std::vector<double> JudgeRows() {
     const int mover = Game.CurrentPlayer;
     const BoardRuns board = FindBoardRuns();
     std::vector<int> candidates;
-    for (const Integer line : lines)
-        candidates.push_back(board.RunOfLine.at(line));
+    for (const RiskyLine& row : Work.RiskyLines)
+        candidates.push_back(board.RunOfLine.at(row.Line));
     GiveawaySearch search(Game.PlayerKind.at(mover), Game.PlayerKind.at(OtherPlayer(mover)));
     return search.Judge(board.Runs, candidates);
 }
 
-// Puts the best lines first and returns how many are equally good.
-int OrderBestFirst(std::vector<Integer>& lines, const std::vector<double>& margins) {
-    const double best = *std::max_element(margins.begin(), margins.end());
+// Puts the best rows first and returns how many are equally good. A damaged board may leave none,
+// which is an out-of-range error.
+int OrderBestFirst(const std::vector<double>& margins) {
+    double best = margins.at(0);
+    for (const double margin : margins)
+        best = std::max(best, margin);
     int ties = 0;
-    for (std::size_t row = 0; row < lines.size(); ++row)
-        if (IsAsGood(margins.at(row), best))
-            Swap(lines.at(ties++), lines.at(row));
+    for (int row = 1; row <= Work.RiskyLines.Count(); ++row)
+        if (IsAsGood(margins.at(row - 1), best))
+            Swap(Work.RiskyLines.at(++ties).Line, Work.RiskyLines.at(row).Line);
     return ties;
 }
 
@@ -57,8 +53,6 @@ int OrderBestFirst(std::vector<Integer>& lines, const std::vector<double>& margi
 void ChooseSacrificeDeep() {
     if (!Game.HintMode)
         Delay(0.5F);
-    std::vector<Integer> lines = LinesOfRows();
-    const std::vector<double> margins = JudgeLines(lines);
-    const int ties = OrderBestFirst(lines, margins);
-    GiveAwayLine(lines.at(RandomPick(ties) - 1));
+    const int ties = OrderBestFirst(JudgeRows());
+    GiveAwayLine(Work.RiskyLines.at(RandomPick(ties)).Line);
 }

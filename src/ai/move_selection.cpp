@@ -35,17 +35,6 @@ bool IsDrawn(int line) {
     return Game.Lines.at(line).Drawn != 0;
 }
 
-// Returns whether a line was chosen; if not, every box with three sides is taken.
-bool CheatTookItsChoice(int captureBox) {
-    Game.ChosenLine = ToInteger(FirstUndrawnSide(captureBox));
-    CheatTakeBoxes();
-    if (Game.ChosenLine == 0 || IsDrawn(Game.ChosenLine)) {
-        const int nextBox = FindCaptureBox();
-        Game.ChosenLine = ToInteger(nextBox == 0 ? 0 : FirstUndrawnSide(nextBox));
-    }
-    return Game.ChosenLine != 0;
-}
-
 // Sorts the undrawn lines into safe ones, left in `ChainLines`, and `RiskyLines`.
 void ClassifyUndrawnLines() {
     Work.ChainLines.Clear();
@@ -66,17 +55,31 @@ void ChooseSafeOrRiskyLine() {
         Game.ChosenLine = Work.ChainLines.at(RandomPick(Work.ChainLines.Count()));
     else if (Work.RiskyLines.Count() > 1)
         ChooseSacrifice();
-    else if (Work.RiskyLines.Count() == 1)
+    else if (Work.RiskyLines.Count() == 1) // on a damaged board: a last line would take a box
         GiveAwayLine(Work.RiskyLines.at(1).Line);
+}
+
+// The cheat may have drawn every line that takes a box; then it moves on as after any capture.
+void TakeAsCheat(int captureBox) {
+    Game.ChosenLine = ToInteger(FirstUndrawnSide(captureBox));
+    CheatTakeBoxes();
+    if (!IsDrawn(Game.ChosenLine))
+        return;
+    Game.ChosenLine = 0;
+    if (const int nextBox = FindCaptureBox(); nextBox != 0)
+        Game.ChosenLine = ToInteger(FirstUndrawnSide(nextBox));
+    else
+        ChooseSafeOrRiskyLine();
 }
 
 } // namespace
 
 void ChooseComputerMove() {
     const int captureBox = FindCaptureBox();
-    const bool cheats = !Game.HintMode && Game.PlayerKind.at(Game.CurrentPlayer) == ComputerCheat;
-    if (captureBox != 0 && !cheats)
-        TakeWholeChain(captureBox);
-    else if (captureBox == 0 || !CheatTookItsChoice(captureBox))
+    if (captureBox == 0)
         ChooseSafeOrRiskyLine();
+    else if (!Game.HintMode && Game.PlayerKind.at(Game.CurrentPlayer) == ComputerCheat)
+        TakeAsCheat(captureBox);
+    else
+        TakeWholeChain(captureBox);
 }

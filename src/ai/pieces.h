@@ -20,7 +20,6 @@ struct Run {
     std::array<int, 2> Ends{};
 
     bool IsRing() const { return Ends[0] == Closed; }
-    bool EndsAt(int joint) const { return Ends[0] == joint || Ends[1] == joint; }
     int LineCount() const { return IsRing() ? Boxes : Boxes + 1; }
     auto operator<=>(const Run&) const = default; // NOLINT(modernize-use-nullptr): its own mistake
 };

@@ -1,5 +1,7 @@
 #include "base/random.h"
 
+#include <stdexcept>
+
 namespace {
 
 std::uint64_t generatorState = 0;
@@ -26,6 +28,8 @@ float RandomUniform() {
 }
 
 Integer RandomPick(int count) {
+    if (count < 1)
+        throw std::out_of_range("a choice among nothing");
     // In double: in single precision the product could round up to `count` itself.
     return ToInteger(static_cast<int>(static_cast<double>(RandomUniform()) * count) + 1);
 }

@@ -10,5 +10,6 @@ void SeedRandom(std::uint64_t seed);
 // Uniform in [0, 1), in steps of 2 to the -24.
 float RandomUniform();
 
-// A number from 1 to `count`, all equally likely. Uses one random number.
+// A number from 1 to `count`, all equally likely. Uses one random number. Throws std::out_of_range
+// when there is nothing to choose from.
 Integer RandomPick(int count);

@@ -37,7 +37,7 @@ bool RedrawField();
 
 void DrawLine(int line, Color color);
 
-// Ghost lines stop a pixel short of their end points, so that the points stay.
+// Ghost lines stop a pixel short of their end points.
 void DrawGhostLine(int line, Color color);
 void EraseGhostLine(int line);
 

@@ -14,10 +14,12 @@ int PictureHeight();
 // Takes everything off the picture, so that its background shows.
 void ClearPicture();
 
-// Plots one point, a pixel wide and high.
+// Plots one point: a dot of three by three pixels, or so many that there is a middle one, around
+// (x, y). It stays on top of all lines and boxes, whenever they are drawn or erased.
 void PlotPoint(int x, int y, Color color);
 
-// Draws a horizontal or vertical line of one pixel from one end point to the other, both included.
+// Draws a horizontal or vertical line, a pixel wide, from one end point to the other, both
+// included.
 void DrawPictureLine(int fromX, int fromY, int toX, int toY, Color color);
 
 // Gives the pixels of such a line back to the background.

@@ -9,6 +9,7 @@
 #include "core/state/work_lists.h"
 #include "display/command_states.h"
 #include "display/field.h"
+#include "display/news.h"
 #include "display/status_panel.h"
 #include "platform/desktop.h"
 #include "platform/picture.h"
@@ -81,24 +82,27 @@ void WriteTable(std::vector<Row>& table, int lastRow, Visit write) {
 
 constexpr auto Read = [](auto& value) { ReadValue(value); };
 
-// The table grows with what the file really holds, whatever count it claims.
+// Row 0 stands for none, whatever the file holds there.
 template <class Row>
-void ReadTable(std::vector<Row>& table, int lastRow) {
-    if (lastRow < 0)
-        throw std::runtime_error("a table cannot have so few rows");
-    table = std::vector<Row>(1);
-    VisitRow(table.front(), Read);
+void ReadTable(std::vector<Row>& table) {
+    for (Row& row : table)
+        VisitRow(row, Read);
     table.front() = Row{};
-    for (int row = 1; row <= lastRow; ++row)
-        VisitRow(table.emplace_back(), Read);
+}
+
+void RequireRows(Integer count) {
+    if (count < 0)
+        throw std::runtime_error("a table cannot have so few rows");
 }
 
 // Nothing may point into tables that are about to be replaced.
 void ForgetLines() {
     Game.LastLine = 0;
     Game.GhostLine = 0;
+    Game.LastGhostLine = 0;
     Game.ComputerGhostLine = 0;
     Game.ChosenLine = 0;
+    Game.Told = {};
 }
 
 void ShowLoadedGame() {
@@ -111,6 +115,7 @@ void ShowLoadedGame() {
     ShowAllMarkers(false);
     ShowGamePaused();
     EnterPhase(Phase::Prepared);
+    TellNews();
 }
 
 Grid ReadGrid() {
@@ -183,10 +188,13 @@ bool ReadGame() {
     Game.GridRows = grid.Rows;
     VisitPlayersAndEdges(Read);
     Read(Game.BoxCount);
-    ReadTable(Game.Boxes, Game.BoxCount);
+    RequireRows(Game.BoxCount);
+    SizeBoxTables();
+    ReadTable(Game.Boxes);
     VisitLineCounts(Read);
-    ReadTable(Game.Lines, Game.LineCount);
-    SizeWorkLists();
+    RequireRows(Game.LineCount);
+    SizeLineTables();
+    ReadTable(Game.Lines);
     return true;
 }
 

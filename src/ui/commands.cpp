@@ -13,6 +13,7 @@
 #include "core/state/game_state.h"
 #include "display/command_states.h"
 #include "display/field.h"
+#include "display/news.h"
 #include "display/safe_lines.h"
 #include "display/status_panel.h"
 #include "platform/desktop.h"
@@ -38,6 +39,7 @@ void DrawGame() {
     ShowGamePaused();
     Game.GamePaused = true;
     EnterPhase(Phase::Prepared);
+    TellNews();
 }
 
 void SetUpAndPlay(Command command) {
@@ -206,7 +208,8 @@ void mnuExchange_Click() {
     if (Game.GameInPlay || !Game.GamePaused || !IsPlayer(Game.CurrentPlayer))
         return;
     Game.CurrentPlayer = ToInteger(OtherPlayer(Game.CurrentPlayer));
-    frmQuibsMain.lblPlayer1Active.Caption = TurnText(Game.CurrentPlayer);
+    ShowGamePaused();
+    TellNews();
 }
 
 void mnuHint_Click() {
@@ -285,6 +288,23 @@ bool SaveGameAs(const std::string& directory, const std::string& name) {
 
 void picPlayingField_MouseDown() {
     PressGhostLine();
+}
+
+void picPlayingField_KeyDown(FieldKey key) {
+    switch (key) {
+    case FieldKey::Left:
+        return MoveGhostLine(Direction::Left);
+    case FieldKey::Up:
+        return MoveGhostLine(Direction::Up);
+    case FieldKey::Right:
+        return MoveGhostLine(Direction::Right);
+    case FieldKey::Down:
+        return MoveGhostLine(Direction::Down);
+    case FieldKey::Turn:
+        return TurnGhostLine();
+    case FieldKey::Draw:
+        return PressGhostLine();
+    }
 }
 
 void picPlayingField_MouseMove(float x, float y) {

@@ -2,6 +2,7 @@
 
 #include "core/rules/pacing.h"
 #include "core/state/game_state.h"
+#include "display/news.h"
 #include "display/sound.h"
 #include "display/status_panel.h"
 
@@ -18,7 +19,8 @@ int Winner() {
 }
 
 void ShowWinner(int winner) {
-    ShowCaptions("The Winner Is:", Game.PlayerName.at(winner));
+    const std::string& name = Game.PlayerName.at(winner);
+    ShowCaptions({"The Winner Is:"}, {name, name.size()}, winner);
     ShowAllMarkers(false);
     FillAllMarkers(Game.PlayerColor.at(winner));
     const bool isComputer = Game.PlayerKind.at(winner) != Humanoid;
@@ -26,7 +28,7 @@ void ShowWinner(int winner) {
 }
 
 void ShowDraw() {
-    ShowCaptions("It's A Draw.", "");
+    ShowCaptions({"It's A Draw."}, {}, 0);
     FillAllMarkers(Black);
     PlaySound(NextSound(Game.DrawSounds));
 }
@@ -45,6 +47,7 @@ void ShowGameOver() {
         ShowWinner(winner);
     else
         ShowDraw();
+    TellNews();
     for (int round = 0; round < BlinkRounds; ++round) {
         Blink(MarkerPair::First);
         Blink(MarkerPair::Second);

@@ -23,9 +23,8 @@ void NewGame() {
     Game.BoxCount = ToInteger(columns * rows);
     PlaceField(columns, rows);
 
-    Game.Boxes.assign(static_cast<std::size_t>(Game.BoxCount) + 1, Box{});
-    Game.Lines.assign(static_cast<std::size_t>(Game.LineCount) + 1, Line{});
-    SizeWorkLists();
+    SizeBoxTables();
+    SizeLineTables();
     Game.BoxesClaimed = 0;
     Game.LinesDrawn = 0;
     BuildField();
@@ -42,7 +41,9 @@ void NewGame() {
 void ForgetTurn() {
     Game.ComputerGhostLine = 0;
     Game.GhostLine = 0;
+    Game.LastGhostLine = 0;
     Game.ChosenLine = 0;
     Game.LastLine = 0;
+    Game.Told = {};
     ShowAllMarkers(false);
 }

@@ -1,16 +1,18 @@
 #include "core/play/turn_loop.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "ai/move_selection.h"
 #include "base/random.h"
 #include "core/play/game_over.h"
 #include "core/play/game_setup.h"
+#include "core/play/pointer_input.h"
 #include "core/rules/moves.h"
 #include "core/rules/pacing.h"
 #include "core/state/game_state.h"
 #include "display/command_states.h"
-#include "display/field.h"
+#include "display/news.h"
 #include "display/status_panel.h"
 #include "platform/desktop.h"
 #include "platform/picture.h"
@@ -34,15 +36,16 @@ void WaitForPerson() {
     while (PersonIsToMove())
         YieldToEvents(Forever);
     Game.MouseDownSeen = true;
-    if (Game.GhostLine > 0) {
-        EraseGhostLine(Game.GhostLine);
-        Game.GhostLine = 0;
-    }
+    if (Game.GamePaused && Game.ChosenLine > 0)
+        Game.GhostLine = std::exchange(Game.ChosenLine, Integer{0}); // a press that is not played
+    RemoveGhostLine();
 }
 
 void AskPerson() {
-    if (PersonIsToMove())
+    if (PersonIsToMove()) {
         EnterPhase(Phase::PersonToMove);
+        TellNews();
+    }
     frmQuibsMain.picPlayingField.MousePointer = PointerShape::Default;
     WaitForPerson();
     StateOf(Command::Hint).Enabled = false;
@@ -50,6 +53,7 @@ void AskPerson() {
 
 void AskComputer() {
     frmQuibsMain.picPlayingField.MousePointer = PointerShape::Hourglass;
+    TellScoreNowAndThen();
     ChooseComputerMove();
     // The players dialog may have given the turn to a person meanwhile, who chooses for himself.
     if (IsPersonsTurn())
@@ -73,10 +77,17 @@ void DrawFirstPlayer() {
     Game.CurrentPlayer = RandomPick(2);
 }
 
+// A person is told at the beginning of his wait.
+void TellComputersTurn() {
+    if (!IsPersonsTurn() && !Game.QuitRequested)
+        TellNews();
+}
+
 // Draws who begins, and lets a computer wait so that its first line does not come at once.
 void BeginFirstTurn() {
     DrawFirstPlayer();
     ShowTurn(Game.CurrentPlayer);
+    TellComputersTurn();
     if (!IsPersonsTurn())
         Delay(2);
 }
@@ -86,6 +97,7 @@ void ResumeTurn() {
     if (!IsPlayer(Game.CurrentPlayer))
         DrawFirstPlayer();
     ShowTurn(Game.CurrentPlayer);
+    TellComputersTurn();
 }
 
 LoopEnd PlayTurns() {
@@ -98,6 +110,8 @@ LoopEnd PlayTurns() {
             return LoopEnd::ProgramEnding;
         if (Game.QuitRequested)
             return LoopEnd::Quit;
+        if (Game.BoxesClaimed >= Game.BoxCount)
+            break; // the cheat drew the last box itself, and no pause holds up the end
         if (Game.GamePaused)
             return LoopEnd::Paused;
         if (Game.ChosenLine != 0)
@@ -122,6 +136,7 @@ void EndLoop(LoopEnd end) {
     case LoopEnd::Paused:
         ShowGamePaused();
         EnterPhase(Phase::Paused);
+        TellNews();
         break;
     case LoopEnd::Quit:
         AbandonGame();
@@ -158,7 +173,7 @@ void AbandonGame() {
     Game.QuitRequested = false;
     Game.GameOverShown = false;
     Game.CommandAfterGameOver.reset();
-    ShowCaptions("", "");
+    ShowCaptions({}, {}, 0);
     ForgetTurn();
     Game.PlayerScore = {};
     ShowPlayerStatus(1);
@@ -167,4 +182,5 @@ void AbandonGame() {
     Game.LineCount = 0;
     ClearCounters();
     ClearPicture();
+    TellNews();
 }

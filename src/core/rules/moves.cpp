@@ -80,7 +80,7 @@ void ScoreBoxes(int count) {
     Increase(Game.BoxesClaimed, count);
     ShowBoxesStatus();
     if (Game.BoxesClaimed >= Game.BoxCount) {
-        ShowCaptions("", "");
+        ShowCaptions({}, {}, 0);
         ShowMarkers(MarkerPair::First, false);
     }
 }
@@ -109,12 +109,10 @@ bool IsLegalMove() {
     const Integer opponentKind = Game.PlayerKind.at(OtherPlayer(Game.CurrentPlayer));
     if (opponentKind == Humanoid || opponentKind == ComputerCheat)
         return true;
-    const Integer line = Game.ChosenLine;
-    if (!GivesAwayATakeableBox(line))
+    if (!GivesAwayATakeableBox(Game.ChosenLine))
         return true;
     ShowMessageBox("Not a legal move, only legal when opponent is Humanoid or Computer Cheat.",
                    "Illegal Move", MessageIcon::Exclamation, MessageButtons::Ok);
-    if (line >= 1)
-        EraseGhostLine(line);
+    EraseGhostLine(Game.ChosenLine);
     return false;
 }

@@ -50,9 +50,20 @@ struct Box {
 // Up to ten wave files, played in turn over successive games.
 struct SoundList {
     std::vector<std::string> Names; // position 1 is Names.at(0)
-    Integer Next = 0;               // position played last, 0 = none yet
+    Integer Next = 0;               // the one behind this position plays next; 0 = no files
 
     bool operator==(const SoundList&) const = default;
+};
+
+// What somebody who listens has been told of this game.
+struct ToldNews {
+    bool Field = false; // its size and how far it had come
+    Integer LastLine = 0;
+    Integer GhostLine = 0;
+    PerPlayer<Integer> Score;
+    float Time = 0; // seconds since midnight
+
+    bool operator==(const ToldNews&) const = default;
 };
 
 struct GameState {
@@ -99,7 +110,10 @@ struct GameState {
     Integer CurrentPlayer = 0;     // 1 or 2 whenever the turn loop runs; 0 = not drawn yet
     Integer LastLine = 0;          // most recently drawn by either player, 0 = none
     Integer ComputerGhostLine = 0; // shown in ComputerGhostColor, 0 = none
-    Integer GhostLine = 0;         // shown as hover preview or hint, 0 = none
+    Integer GhostLine = 0;         // shown as preview or hint, 0 = none
+    Integer LastGhostLine = 0;     // shown last, where the keys go on; 0 = none yet
+
+    ToldNews Told;
 
     // This turn.
     Integer ChosenLine = 0;    // 0 = no move yet
@@ -130,6 +144,10 @@ inline bool IsPlayer(int player) {
 
 inline int OtherPlayer(int player) {
     return 3 - player;
+}
+
+inline bool IsVertical(int line) {
+    return line > Game.HorizontalLineCount;
 }
 
 // The box beyond a line of `box`, 0 = the border.

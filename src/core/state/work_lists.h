@@ -1,4 +1,5 @@
-// The working lists of the computer players. Nothing in them outlives one choice of a line.
+// The working lists of the computer players, sized together with the board. Nothing in them
+// outlives one choice of a line.
 #pragma once
 
 #include "base/counted_list.h"
@@ -18,5 +19,7 @@ struct WorkLists {
 
 extern WorkLists Work;
 
-// Sizes and empties the lists for the board of `Game`.
-void SizeWorkLists();
+// Give the board's tables room for `BoxCount` boxes and `LineCount` lines, all of them empty, and
+// the lists that go with them.
+void SizeBoxTables();
+void SizeLineTables();

@@ -12,6 +12,7 @@ FieldPicture TheFieldPicture;
 namespace {
 
 constexpr int LargestPicture = 32767; // twips
+constexpr int DotSize = 3;            // logical pixels
 
 QRgb Opaque(Color color) {
     return ToQColor(color).rgb();
@@ -24,34 +25,52 @@ void FieldPicture::Resize(QSize logicalSize, qreal screenPixelRatio) {
         return;
     const QSize screenSize(static_cast<int>(std::ceil(logicalSize.width() * screenPixelRatio)),
                            static_cast<int>(std::ceil(logicalSize.height() * screenPixelRatio)));
-    QImage resized(screenSize, QImage::Format_ARGB32_Premultiplied);
-    resized.fill(Qt::transparent);
-    if (!Pixels.isNull() && screenPixelRatio == Ratio)
-        QPainter(&resized).drawImage(0, 0, Pixels);
-    Pixels = resized;
+    for (QImage* layer : {&Lines, &Points}) {
+        QImage resized(screenSize, QImage::Format_ARGB32_Premultiplied);
+        resized.fill(Qt::transparent);
+        if (!layer->isNull() && screenPixelRatio == Ratio)
+            QPainter(&resized).drawImage(0, 0, *layer);
+        *layer = resized;
+    }
     Size = logicalSize;
     Ratio = screenPixelRatio;
 }
 
 void FieldPicture::Clear() {
-    Pixels.fill(Qt::transparent);
+    Lines.fill(Qt::transparent);
+    Points.fill(Qt::transparent);
     WhenChanged(QRect(QPoint(), Size));
 }
 
-void FieldPicture::Fill(int left, int top, int right, int bottom, QRgb color) {
-    const int stroke = std::max(1, static_cast<int>(Ratio));
+void FieldPicture::FillDot(int x, int y, QRgb color) {
+    const int reach = static_cast<int>(Ratio * DotSize / 2);
+    Fill(Points, ToScreen(x, y, x, y).adjusted(-reach, -reach, reach, reach), color);
+}
+
+void FieldPicture::FillStroke(int fromX, int fromY, int toX, int toY, QRgb color) {
+    const int reach = static_cast<int>(Ratio / 2);
+    Fill(Lines, ToScreen(fromX, fromY, toX, toY).adjusted(-reach, -reach, reach, reach), color);
+}
+
+void FieldPicture::FillBox(int left, int top, int right, int bottom, QRgb color) {
+    Fill(Lines, ToScreen(left, top, right, bottom), color);
+}
+
+QRect FieldPicture::ToScreen(int left, int top, int right, int bottom) const {
     const auto toScreen = [this](int twips, int twipsPerPixel) {
         return static_cast<int>(std::floor(twips * Ratio / twipsPerPixel));
     };
-    const QRect wanted(
+    return {
         QPoint(toScreen(left, TwipsPerPixel.width()), toScreen(top, TwipsPerPixel.height())),
-        QPoint(toScreen(right, TwipsPerPixel.width()) + stroke - 1,
-               toScreen(bottom, TwipsPerPixel.height()) + stroke - 1));
-    const QRect filled = wanted & Pixels.rect();
+        QPoint(toScreen(right, TwipsPerPixel.width()), toScreen(bottom, TwipsPerPixel.height()))};
+}
+
+void FieldPicture::Fill(QImage& layer, const QRect& screenPixels, QRgb color) {
+    const QRect filled = screenPixels & layer.rect();
     if (filled.isEmpty())
         return;
     for (int y = filled.top(); y <= filled.bottom(); ++y) {
-        auto* row = reinterpret_cast<QRgb*>(Pixels.scanLine(y));
+        auto* row = reinterpret_cast<QRgb*>(layer.scanLine(y));
         std::fill_n(row + filled.left(), filled.width(), color);
     }
     const QRectF logical(filled.left() / Ratio, filled.top() / Ratio, filled.width() / Ratio,
@@ -81,17 +100,17 @@ void ClearPicture() {
 }
 
 void PlotPoint(int x, int y, Color color) {
-    TheFieldPicture.Fill(x, y, x, y, Opaque(color));
+    TheFieldPicture.FillDot(x, y, Opaque(color));
 }
 
 void DrawPictureLine(int fromX, int fromY, int toX, int toY, Color color) {
-    TheFieldPicture.Fill(fromX, fromY, toX, toY, Opaque(color));
+    TheFieldPicture.FillStroke(fromX, fromY, toX, toY, Opaque(color));
 }
 
 void ErasePictureLine(int fromX, int fromY, int toX, int toY) {
-    TheFieldPicture.Fill(fromX, fromY, toX, toY, qRgba(0, 0, 0, 0));
+    TheFieldPicture.FillStroke(fromX, fromY, toX, toY, qRgba(0, 0, 0, 0));
 }
 
 void FillPictureBox(int left, int top, int right, int bottom, Color color) {
-    TheFieldPicture.Fill(left, top, right, bottom, Opaque(color));
+    TheFieldPicture.FillBox(left, top, right, bottom, Opaque(color));
 }

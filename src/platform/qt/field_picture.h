@@ -1,8 +1,10 @@
-// The image behind the playing field. It lies transparent over the background, so that a new
-// background shows under what is drawn, and keeps its drawing while the window is covered.
+// The images behind the playing field: lines and boxes, and above them the points, which nothing
+// that is drawn or erased can touch. They lie transparent over the background, so that a new
+// background shows under what is drawn, and keep their drawing while the window is covered.
 #pragma once
 
 #include <QImage>
+#include <array>
 #include <functional>
 
 class FieldPicture {
@@ -14,21 +16,29 @@ public:
     // where it was, as far as it fits.
     void Resize(QSize logicalSize, qreal screenPixelRatio);
 
-    const QImage& Image() const { return Pixels; }
+    // From the lowest to the highest, all of one size.
+    std::array<const QImage*, 2> Layers() const { return {&Lines, &Points}; }
     // Inner size in twips, 0 to 32767.
     QSize SizeInTwips() const;
     qreal PixelRatio() const { return Ratio; }
 
     void Clear();
 
-    // Fills whole screen pixels between two corners in twips, both included; 0 clears them.
-    void Fill(int left, int top, int right, int bottom, QRgb color);
+    // All take corners in twips, both included, and fill whole screen pixels; the colour 0 clears
+    // them. Dots and strokes have their middle where they are put and are odd numbers of screen
+    // pixels wide, so that they meet evenly at every scale. A dot ends before a box begins.
+    void FillDot(int x, int y, QRgb color);
+    void FillStroke(int fromX, int fromY, int toX, int toY, QRgb color);
+    void FillBox(int left, int top, int right, int bottom, QRgb color);
 
     // Called with the changed rectangle, in logical pixels.
     std::function<void(const QRect&)> WhenChanged = [](const QRect&) {};
 
 private:
-    QImage Pixels;
+    QRect ToScreen(int left, int top, int right, int bottom) const;
+    void Fill(QImage& layer, const QRect& screenPixels, QRgb color);
+
+    QImage Lines, Points;
     QSize Size;
     qreal Ratio = 1;
     QSize TwipsPerPixel{1, 1};

@@ -1,16 +1,17 @@
 #include "ui/qt/file_lists.h"
 
 #include <QComboBox>
-#include <QDir>
 #include <QGridLayout>
 #include <QKeyEvent>
 #include <QListWidget>
 #include <QStyle>
+#include <QTimer>
 
 namespace {
 
 constexpr int PathRole = Qt::UserRole;
 constexpr QSize SmallestList(220, 190); // pixels
+constexpr int SlowReading = 200;        // milliseconds
 
 template <class List>
 List* Named(List* list, const char* objectName, const char* accessibleName) {
@@ -37,12 +38,19 @@ QString DriveOf(const QString& directory, const QComboBox* drives) {
     return longest;
 }
 
+// The next name on the way from a directory down to another; empty when it does not lie there.
+QString StepTowards(const QString& goal, const QString& directory) {
+    const QString parent = directory.endsWith('/') ? directory : directory + '/';
+    return goal.startsWith(parent) ? goal.mid(parent.size()).section('/', 0, 0) : QString();
+}
+
 } // namespace
 
 FileLists::FileLists(QWidget* parent)
     : QWidget(parent), drvDriveList(Named(new QComboBox(this), "drvDriveList", "Drives")),
       dirDirectoryList(MakeList(this, "dirDirectoryList", "Directories")),
-      filFileList(MakeList(this, "filFileList", "Saved games")) {
+      filFileList(MakeList(this, "filFileList", "Saved games")),
+      DirectoryIcon(style()->standardIcon(QStyle::SP_DirIcon)), ReadingIsSlow(new QTimer(this)) {
     auto* grid = new QGridLayout(this);
     grid->setContentsMargins(0, 0, 0, 0);
     grid->addWidget(drvDriveList, 0, 0);
@@ -54,21 +62,22 @@ FileLists::FileLists(QWidget* parent)
     dirDirectoryList->setIconSize(QSize(iconSize, iconSize));
 
     connect(&Reader, &DirectoryReader::Done, this, &FileLists::ShowContents);
-    connect(drvDriveList, &QComboBox::textActivated, this, &FileLists::ShowDirectory);
-    connect(dirDirectoryList, &QListWidget::itemDoubleClicked, this, &FileLists::EnterDirectory);
-    const auto passOn = [this] {
-        for (const QListWidgetItem* selected : filFileList->selectedItems())
-            emit GameClicked(selected->text());
-    };
-    connect(filFileList, &QListWidget::itemSelectionChanged, this, passOn);
-    connect(filFileList, &QListWidget::itemClicked, this, passOn); // that was selected already
+    ReadingIsSlow->setSingleShot(true);
+    ReadingIsSlow->setInterval(SlowReading);
+    connect(ReadingIsSlow, &QTimer::timeout, this, &FileLists::ShowThatItTakesTime);
+    connect(drvDriveList, &QComboBox::textActivated, this, &FileLists::drvDriveList_Change);
+    connect(dirDirectoryList, &QListWidget::itemDoubleClicked, this,
+            &FileLists::dirDirectoryList_DblClick);
+    connect(filFileList, &QListWidget::itemSelectionChanged, this, &FileLists::filFileList_Click);
+    // A game that was selected already.
+    connect(filFileList, &QListWidget::itemClicked, this, &FileLists::filFileList_Click);
     connect(filFileList, &QListWidget::itemDoubleClicked, this, &FileLists::GameDoubleClicked);
 }
 
 void FileLists::Load() {
     drvDriveList->clear();
     drvDriveList->addItems(MountedDrives());
-    const QString current = QDir::currentPath();
+    const QString current = CurrentDirectory();
     drvDriveList->setCurrentText(DriveOf(current, drvDriveList));
     ShowDirectory(current);
     filFileList->setFocus();
@@ -80,7 +89,7 @@ bool FileLists::eventFilter(QObject* watched, QEvent* event) {
     const int key = static_cast<QKeyEvent*>(event)->key();
     // Return enters the directory; it must not reach the dialog's Ok.
     if (watched == dirDirectoryList && (key == Qt::Key_Return || key == Qt::Key_Enter)) {
-        EnterDirectory(dirDirectoryList->currentItem());
+        dirDirectoryList_DblClick(dirDirectoryList->currentItem());
         return true;
     }
     // The first press goes to the first game; by itself the list would pass it over.
@@ -93,7 +102,6 @@ bool FileLists::eventFilter(QObject* watched, QEvent* event) {
 
 void FileLists::ShowDirectory(const QString& directory) {
     ShownDirectory = directory;
-    filFileList->clear();
     dirDirectoryList->clear();
     // The way from the root, one step deeper each.
     AddDirectory("/", "/", 0);
@@ -104,10 +112,24 @@ void FileLists::ShowDirectory(const QString& directory) {
         AddDirectory(path, name, ++depth);
     }
     dirDirectoryList->setCurrentRow(depth);
-    Reader.Read(directory);
+    dirDirectoryList_Change();
+}
+
+void FileLists::dirDirectoryList_Change() {
+    filFileList->clear();
+    ReadingIsSlow->start();
+    // The directory of the game is a hidden one: without the way back it could not be found again.
+    Reader.Read(ShownDirectory, StepTowards(CurrentDirectory(), ShownDirectory));
+}
+
+void FileLists::ShowThatItTakesTime() {
+    auto* notice = new QListWidgetItem("Reading \u2026", filFileList);
+    notice->setFlags(Qt::NoItemFlags); // is no game to be chosen
 }
 
 void FileLists::ShowContents(const DirectoryContents& contents) {
+    ReadingIsSlow->stop();
+    filFileList->clear();
     const int depth = dirDirectoryList->count();
     const QString parent = ShownDirectory.endsWith('/') ? ShownDirectory : ShownDirectory + '/';
     for (const QString& name : contents.Directories)
@@ -117,12 +139,17 @@ void FileLists::ShowContents(const DirectoryContents& contents) {
 
 void FileLists::AddDirectory(const QString& path, const QString& name, int depth) {
     constexpr qsizetype blanksPerStep = 3;
-    auto* item = new QListWidgetItem(QString(depth * blanksPerStep, ' ') + name, dirDirectoryList);
-    item->setIcon(style()->standardIcon(QStyle::SP_DirIcon));
+    auto* item = new QListWidgetItem(DirectoryIcon, QString(depth * blanksPerStep, ' ') + name);
     item->setData(PathRole, path);
+    dirDirectoryList->addItem(item);
 }
 
-void FileLists::EnterDirectory(const QListWidgetItem* item) {
+void FileLists::dirDirectoryList_DblClick(const QListWidgetItem* item) {
     if (item != nullptr)
         ShowDirectory(item->data(PathRole).toString());
+}
+
+void FileLists::filFileList_Click() {
+    for (const QListWidgetItem* selected : filFileList->selectedItems())
+        emit GameClicked(selected->text());
 }

@@ -2,6 +2,7 @@
 // one before it.
 #pragma once
 
+#include <QIcon>
 #include <QWidget>
 
 #include "ui/qt/directory_reader.h"
@@ -9,6 +10,7 @@
 class QComboBox;
 class QListWidget;
 class QListWidgetItem;
+class QTimer;
 
 class FileLists : public QWidget {
     Q_OBJECT
@@ -30,14 +32,21 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    void drvDriveList_Change(const QString& drive) { ShowDirectory(drive); }
+    void dirDirectoryList_Change();
+    void dirDirectoryList_DblClick(const QListWidgetItem* item);
+    void filFileList_Click();
+
     void ShowDirectory(const QString& directory);
     void ShowContents(const DirectoryContents& contents);
+    void ShowThatItTakesTime();
     void AddDirectory(const QString& path, const QString& name, int depth);
-    void EnterDirectory(const QListWidgetItem* item);
 
     QComboBox* drvDriveList;
     QListWidget* dirDirectoryList;
     QListWidget* filFileList;
+    QIcon DirectoryIcon; // made once: a style reads it from its files each time it is asked
     DirectoryReader Reader;
+    QTimer* ReadingIsSlow;
     QString ShownDirectory;
 };

@@ -5,6 +5,7 @@
 #include <QCloseEvent>
 #include <QMenuBar>
 #include <QScreen>
+#include <QShortcut>
 #include <QToolBar>
 #include <cmath>
 
@@ -25,10 +26,11 @@
 
 namespace {
 
-constexpr QSize InitialSize(640, 580);
 constexpr QSize RoomForFrame(80, 80); // a centred window keeps its title and borders on the screen
 constexpr int IconSize = 24;
-constexpr int SmallestPictureSpacings = 3;
+// Of the picture, in spacings: room for two boxes, and for ten with a calm margin.
+constexpr int SmallestPicture = 3;
+constexpr int InitialPicture = 15;
 
 int ToPixels(int twips, int twipsPerPixel) {
     return static_cast<int>(std::lround(static_cast<double>(twips) / twipsPerPixel));
@@ -53,9 +55,15 @@ MainWindow::MainWindow()
     setWindowIcon(ColoredIcon(":/icons/quiblink.svg"));
     setCentralWidget(ClientArea);
     ClientArea->installEventFilter(this);
+    fraStatistics->installEventFilter(this);
+    picPlayingField->setFocus();
     BuildMenus();
     BuildToolBar();
     UseMainWindow({.ShowControls = [this] { ShowControls(); },
+                   .Say =
+                       [this](const std::string& text) {
+                           picPlayingField->Say(QString::fromStdString(text));
+                       },
                    .ShowForm = [this](Form form) { ShowForm(form); },
                    .Place = [this](WindowPlace place) { Place(place); }});
     connect(picPlayingField, &PlayingField::PictureOutdated, this, &MainWindow::LayOut,
@@ -80,8 +88,10 @@ void MainWindow::closeEvent(QCloseEvent* event) {
 }
 
 bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
-    if (watched == ClientArea && event->type() == QEvent::Resize)
+    if (event->type() == QEvent::Resize) {
+        setMinimumSize(SizeAround(SmallestPicture)); // the frame follows the desktop's font
         LayOut();
+    }
     return QMainWindow::eventFilter(watched, event);
 }
 
@@ -114,6 +124,9 @@ void MainWindow::BuildMenus() {
     AddCommand(help, Command::History, "mnuHistory", "Quibs Histor&y", "Ctrl+Y");
     help->addSeparator();
     AddCommand(help, Command::About, "mnuAbout", "A&bout", "Ctrl+B");
+
+    connect(new QShortcut(Qt::Key_F10, this), &QShortcut::activated, this,
+            [this] { menuBar()->setActiveAction(menuBar()->actions().first()); });
 }
 
 QAction* MainWindow::AddCommand(QMenu* menu, Command command, const char* objectName,
@@ -163,11 +176,10 @@ void MainWindow::BuildToolBar() {
 }
 
 void MainWindow::Place(WindowPlace place) {
-    setMinimumSize(fraStatistics->width() + ToPixels(FrameMargin, Game.TwipsPerPixelX),
-                   SmallestHeight());
+    setMinimumSize(SizeAround(SmallestPicture));
     const QScreen* screen = QApplication::primaryScreen();
     const QRect area = screen->geometry();
-    resize(InitialSize.boundedTo(screen->availableSize() - RoomForFrame));
+    resize(SizeAround(InitialPicture).boundedTo(screen->availableSize() - RoomForFrame));
     if (place == WindowPlace::Centred) {
         move(area.left() + (area.width() - width()) / 2,
              area.top() + (area.height() - height()) / 2);
@@ -195,10 +207,11 @@ void MainWindow::KeepOnScreen(const QRect& workArea) {
     resize(frame.size() - borders);
 }
 
-int MainWindow::SmallestHeight() const {
-    const int picture = SmallestPictureSpacings * PixelsBetweenPoints;
-    return menuBar()->sizeHint().height() + tbrToolBar->sizeHint().height() + picture +
-           fraStatistics->height() + ToPixels(BottomMargin, Game.TwipsPerPixelY) + 1;
+QSize MainWindow::SizeAround(int pictureSpacings) const {
+    const int picture = pictureSpacings * PixelsBetweenPoints;
+    return {fraStatistics->width() + ToPixels(FrameMargin, Game.TwipsPerPixelX),
+            menuBar()->sizeHint().height() + tbrToolBar->sizeHint().height() + picture +
+                fraStatistics->height() + ToPixels(BottomMargin, Game.TwipsPerPixelY) + 1};
 }
 
 void MainWindow::LayOut() {

@@ -40,7 +40,9 @@ private:
 
     void Place(WindowPlace place);
     void KeepOnScreen(const QRect& workArea);
-    int SmallestHeight() const;
+    // Of a window as wide as the status frame asks for, around a picture of so many spacings'
+    // height.
+    QSize SizeAround(int pictureSpacings) const;
     void LayOut();
     void ShowControls();
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QWidget>
+#include <optional>
 
 class PlayingField : public QWidget {
     Q_OBJECT
@@ -12,12 +13,27 @@ public:
     // Shows background and pointer as the controls' data have them.
     void ShowControls();
 
+    // Says a text to a screen reader as soon as the keyboard is on the field. Only the latest of
+    // what waits is said.
+    void Say(const QString& text);
+
 signals:
     // The screen has other pixels than the picture, or the picture another size.
     void PictureOutdated();
 
 protected:
+    void focusInEvent(QFocusEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
+
+private:
+    void SayWhatWaits();
+    void PaintFocusFrame(QPainter& painter) const;
+    void MarkFocus(bool isMarked);
+
+    QString Unsaid;
+    bool FocusIsMarked = false;         // for who uses the keyboard
+    std::optional<QPoint> StillPointer; // on the screen, as long as it lies where keys found it
 };
