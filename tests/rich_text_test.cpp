@@ -47,7 +47,7 @@ TEST(RichText, ReadsTheFormatsOfRunsAndParagraphs) {
     EXPECT_EQ(first.Format.Alignment, RichAlignment::Center);
     EXPECT_EQ(first.Format.LeftIndent, 400);
     EXPECT_EQ(first.Format.FirstIndent, -400);
-    EXPECT_EQ(first.Format.SpaceAfter, 31680); // 22 inches are the most
+    EXPECT_EQ(first.Format.SpaceAfter, 2880); // two inches are the most
     const RichColor color{.Red = 1, .Green = 2, .Blue = 3};
     const std::vector<RichRunFormat> formats{{},
                                              {.Bold = true, .Color = color, .HalfPoints = 30},
@@ -96,6 +96,7 @@ TEST(RichText, BombsStayWithinBounds) {
         cells += "\\cell";
     }
     EXPECT_LE(ReadRichText("{\\rtf1" + paragraphs + "}").size(), 5000u);
+    EXPECT_EQ(Read("{\\rtf1 " + std::string(2001, 'a') + "}").find('|'), 1992u);
     const RichText wide = ReadRichText("{\\rtf1" + cells + "\\row}");
-    EXPECT_EQ(std::get<RichTable>(wide.at(0)).Rows.at(0).Cells.size(), 32u);
+    EXPECT_EQ(std::get<RichTable>(wide.at(0)).Rows.at(0).Cells.size(), 16u);
 }
