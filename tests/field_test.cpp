@@ -5,6 +5,7 @@
 
 #include "core/play/game_setup.h"
 #include "display/safe_lines.h"
+#include "storage/saved_game.h"
 #include "support/game_test.h"
 #include "support/person.h"
 #include "ui/commands.h"
@@ -28,28 +29,9 @@ bool IsDrawn(const Drawing& wanted) {
 
 TEST_F(Field, OfThreeByTwoBoxesIsNumberedAsCountedByHand) {
     SetUpGame(3, 2, Humanoid, Humanoid);
-    const struct {
-        int Column, Row;
-        Integer FirstBox, SecondBox;
-    } lines[] = {
-        {0, 0, 0, 1}, {1, 0, 0, 2}, {2, 0, 0, 3}, {0, 1, 1, 4}, {1, 1, 2, 5}, {2, 1, 3, 6},
-        {0, 2, 4, 0}, {1, 2, 5, 0}, {2, 2, 6, 0}, {0, 0, 0, 1}, {0, 1, 0, 4}, {1, 0, 1, 2},
-        {1, 1, 4, 5}, {2, 0, 2, 3}, {2, 1, 5, 6}, {3, 0, 3, 0}, {3, 1, 6, 0},
-    };
-    ASSERT_EQ(Game.LineCount, 17);
-    for (int number = 1; number <= 17; ++number) {
-        const auto& line = lines[number - 1];
-        const Line expected{0, ToInteger(Game.FieldLeft + line.Column * 300),
-                            ToInteger(Game.FieldTop + line.Row * 375), line.FirstBox,
-                            line.SecondBox};
-        EXPECT_EQ(Game.Lines.at(number), expected) << "line " << number;
-    }
-    const std::array<Integer, 4> sides[] = {{1, 4, 10, 12}, {2, 5, 12, 14}, {3, 6, 14, 16},
-                                            {4, 7, 11, 13}, {5, 8, 13, 15}, {6, 9, 15, 17}};
-    ASSERT_EQ(Game.BoxCount, 6);
-    for (int box = 1; box <= 6; ++box)
-        EXPECT_EQ(Game.Boxes.at(box), (Box{0, 0, sides[box - 1]})) << "box " << box;
     EXPECT_EQ(TheNullDesktop.Drawings.size(), 12U) << "a point for each, and nothing else";
+    SaveGame("field.qbs");
+    EXPECT_EQ(BytesOf("field.qbs"), BytesOf(QUIBLINK_TESTS "/samples/three_by_two.qbs"));
 }
 
 TEST_F(Field, IsCentredAndLoweredToWhatFits) {
@@ -122,16 +104,6 @@ TEST_F(Field, ThatNoLongerFitsIsLeftWhereItWasAndWarnedOfDuringAGame) {
     EXPECT_FALSE(Form_Resize()) << "one warning at a time";
     Game.ResizeWarningShown = Game.GameInPlay = false;
     EXPECT_FALSE(Form_Resize()) << "no game to warn of";
-}
-
-TEST_F(Field, TooLargeForSixteenBitsIsAnErrorThatEndsTheGameOnly) {
-    TheNullDesktop.PictureWidth = TheNullDesktop.PictureHeight = 100'000;
-    Game.GridColumns = Game.GridRows = 200;
-    TheNullDesktop.Answers = {MessageAnswer::Ok};
-    RunGuarded([] { RunCommand(Command::Draw); });
-    EXPECT_EQ(TheNullDesktop.Boxes.size(), 1U);
-    EXPECT_EQ(Game.BoxCount, 0);
-    EXPECT_FALSE(Game.GamePaused);
 }
 
 TEST_F(Field, IsFilledWithSafeLinesUntilNoneIsLeft) {

@@ -101,18 +101,4 @@ TEST_F(Moves, ThatPassTheTurnClickAndShineOnlyFromComputerToPerson) {
     }
 }
 
-TEST_F(Moves, ThatCannotBeAreErrors) {
-    SetUpGame(3, 2, ComputerAverage, Humanoid);
-    DrawForNobody({1});
-    for (const int line : {0, 1})
-        EXPECT_THROW(Draw(line), std::logic_error) << line;
-    for (const int line : {-1, 18})
-        EXPECT_THROW(Draw(line), std::out_of_range) << line;
-    EXPECT_TRUE(BoardIsSound());
-    DrawForNobody({4, 10});
-    Game.PlayerScore.at(1) = 32767;
-    EXPECT_THROW(Draw(12), std::overflow_error);
-    EXPECT_EQ(Game.PlayerScore.at(1), 32767) << "nothing wraps";
-}
-
 } // namespace

@@ -100,34 +100,29 @@ TEST_F(Pointer, ShowsAndTakesNothingUnlessAPersonIsAwaited) {
     }
 }
 
-TEST_F(Pointer, PressTakesTheLinePreviewedLastAndOnlyOnce) {
-    picPlayingField_MouseDown();
-    EXPECT_EQ(Game.ChosenLine, 0) << "nothing is previewed";
-    PointAt(5);
-    PressLine(12);
-    EXPECT_NE(Last().What, Drawing::Kind::Erasure) << "the drawn line will cover it";
-    PressLine(5);
-    Game.MouseDownSeen = false;
-    mnuHint_Click();
-    EXPECT_TRUE(Game.ChosenLine == 12 && Game.GhostLine == 0);
-}
-
-TEST_F(Pointer, LeavesAHintUntilItMovesOrPresses) {
+TEST_F(Pointer, ShowsAHintUntilItMovesAndTakesOnePressOnly) {
     DrawForNobody({5, 8, 13});
-    PointAt(1);
     for (const Integer opponent : {ComputerAverage, ComputerCheat}) {
         Game.PlayerKind.at(2) = opponent;
+        PointAt(1);
         mnuHint_Click();
+        const auto& drawings = TheNullDesktop.Drawings;
+        EXPECT_EQ(drawings.at(drawings.size() - 2).What, Drawing::Kind::Erasure) << "of line 1";
         EXPECT_EQ(Last().DrawnColor, LightRed);
         EXPECT_TRUE(Game.ChosenLine == 0 && !Game.HintMode);
         picPlayingField_MouseMove(Game.PointerX, Game.PointerY);
         EXPECT_EQ(Game.GhostLine, 15) << "the box that can be taken; the pointer did not move";
     }
     MoveTo(12, 12);
-    EXPECT_EQ(Game.GhostLine, 0);
+    picPlayingField_MouseDown();
+    EXPECT_EQ(Game.GhostLine + Game.ChosenLine, 0) << "nothing is previewed";
     mnuHint_Click();
     picPlayingField_MouseDown();
-    EXPECT_EQ(Game.ChosenLine, 15);
+    EXPECT_NE(Last().What, Drawing::Kind::Erasure) << "the drawn line will cover it";
+    PressLine(1);
+    Game.MouseDownSeen = false;
+    mnuHint_Click();
+    EXPECT_TRUE(Game.ChosenLine == 15 && Game.GhostLine == 0) << "one press, one line";
 }
 
 } // namespace

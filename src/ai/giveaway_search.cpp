@@ -10,10 +10,11 @@ namespace {
 
 constexpr int All = std::numeric_limits<int>::max(); // choices followed
 
-// A step is a position set up, worth about half a microsecond. Up to twenty runs a third of the
-// steps has sufficed to follow everything, for every pair of kinds.
+// A step is a position set up, worth about half a microsecond. To follow everything a third of the
+// steps has sufficed up to twenty runs, and all of them nearly always up to twenty-four.
 constexpr std::size_t MostRunsForEverything = 24;
 constexpr long Steps = 400'000;
+constexpr long SmallThingsPerStep = 8; // kinds of pieces to copy, runs to look at
 constexpr long StepsOnceEverythingWasTooMuch = 100'000;
 constexpr long StepsBetweenYields = 4'000;
 
@@ -252,11 +253,11 @@ void GiveawaySearch::SetUpAfter(const Turn& turn, RunPlace place) {
     after.Add(place.Piece, Catalogue.At(place.Piece).Code, -1);
     for (const PieceNumber rest : Catalogue.RestAfter(place))
         after.Add(rest, Catalogue.At(rest).Code, 1);
-    CountSteps(1 + static_cast<long>(after.Shares.size()) / 8);
+    CountSteps(1 + static_cast<long>(after.Shares.size()) / SmallThingsPerStep);
 }
 
 void GiveawaySearch::CountSteps(long steps) {
-    const long all = steps + Catalogue.TakeSteps() / 8;
+    const long all = steps + Catalogue.TakeSteps() / SmallThingsPerStep;
     StepsLeft -= all;
     StepsToYield -= all;
     if (StepsToYield < 0) {

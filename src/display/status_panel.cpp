@@ -26,8 +26,7 @@ std::string KindWord(int kind) {
 }
 
 Label TurnCaption(int player) {
-    const std::string& name = Game.PlayerName.at(player);
-    return {name + "'s Turn", name.size()};
+    return {TurnText(player), Game.PlayerName.at(player).size()};
 }
 
 std::string CounterText(const char* name, int count, int total) {
@@ -63,6 +62,10 @@ void ClearCounters() {
     frmQuibsMain.txtLinesStatus.Text.clear();
 }
 
+std::string TurnText(int player) {
+    return Game.PlayerName.at(player) + "'s Turn";
+}
+
 void ShowTurn(int player) {
     if (!IsPlayer(player))
         return;
@@ -76,6 +79,11 @@ void ShowTurn(int player) {
 void ShowGamePaused() {
     ShowCaptions(TurnCaption(Game.CurrentPlayer), {"GAME PAUSED"}, Game.CurrentPlayer);
     ShowMarkers(MarkerPair::First, false);
+}
+
+std::string OutcomeText() {
+    const std::string& winner = frmQuibsMain.lblPlayer2Active.Caption;
+    return frmQuibsMain.lblPlayer1Active.Caption + (winner.empty() ? "" : " " + winner);
 }
 
 void ShowCaptions(const Label& first, const Label& second, int markedPlayer) {

@@ -23,6 +23,14 @@ enum class MessageAnswer { Ok, Yes, No };
 MessageAnswer ShowMessageBox(const std::string& text, const std::string& title, MessageIcon icon,
                              MessageButtons buttons);
 
+// Whether somebody listens instead of looking. Asked before each text is composed, since a screen
+// reader may come and go at any time; costs nanoseconds.
+bool IsListenedTo();
+
+// Says a text in place of the one that is being said. Where the keyboard is in another window, it
+// is said on return to the field, if nothing newer is.
+void Say(const std::string& text);
+
 // The windows that commands open beside the main window.
 enum class Form { FileOpen, FileSave, DefineGrid, DefinePlayers, Help };
 

@@ -9,6 +9,7 @@
 #include "core/state/work_lists.h"
 #include "display/command_states.h"
 #include "display/field.h"
+#include "display/news.h"
 #include "display/status_panel.h"
 #include "platform/desktop.h"
 #include "platform/picture.h"
@@ -115,6 +116,7 @@ void ForgetLines() {
     Game.GhostLine = 0;
     Game.ComputerGhostLine = 0;
     Game.ChosenLine = 0;
+    Game.Told = {};
 }
 
 void ReadGame(const Grid& grid) {
@@ -144,6 +146,7 @@ void ShowLoadedGame() {
     ShowAllMarkers(false);
     ShowGamePaused();
     EnterPhase(Phase::Prepared);
+    TellNews();
 }
 
 Grid ReadGrid() {

@@ -2,10 +2,10 @@
 
 #include <algorithm>
 #include <charconv>
-#include <filesystem>
-#include <fstream>
+#include <optional>
 #include <stdexcept>
 #include <string_view>
+#include <utility>
 
 #include "base/files.h"
 #include "base/text_encoding.h"
@@ -13,7 +13,7 @@
 namespace {
 
 // Bytes. What lies behind is never read: the largest game that the tables can hold needs less.
-constexpr std::uintmax_t LongestFile = 4'000'000;
+constexpr std::size_t LongestFile = 4'000'000;
 constexpr std::size_t LongestText = 32'767;
 
 constexpr const char* Separators = ",\r\n";
@@ -95,17 +95,11 @@ void AppendLine(std::string& text, const std::string& line) {
 
 void OpenForInput(const std::string& path) {
     RequireFreeChannel();
-    // Only a regular file: opening a pipe could block.
-    std::ifstream file;
-    if (FileExists(path))
-        file.open(path, std::ios::binary);
-    if (!file.is_open())
+    std::optional<std::string> text = ReadRegularFile(path, LongestFile);
+    if (!text)
         throw std::runtime_error("a file cannot be opened");
     TakeChannel();
-    const auto size = std::min(std::filesystem::file_size(path), LongestFile);
-    channel1.Text.resize(static_cast<std::size_t>(size));
-    file.read(channel1.Text.data(), static_cast<std::streamsize>(size));
-    channel1.Text.resize(static_cast<std::size_t>(file.gcount()));
+    channel1.Text = *std::move(text);
 }
 
 void ReadValue(Integer& value) {
@@ -147,18 +141,12 @@ void AppendValue(std::string& text, bool value) {
 
 void WriteFile(const std::string& path, const std::string& text) {
     RequireFreeChannel();
-    std::error_code unreachable;
-    if (std::filesystem::exists(path, unreachable) && !FileExists(path))
-        throw std::runtime_error("a file cannot be opened");
-    std::ofstream file(path, std::ios::binary | std::ios::trunc);
-    if (!file.is_open())
-        throw std::runtime_error("a file cannot be opened");
+    FileReplacement file(path);
     TakeChannel();
-    file.write(text.data(), static_cast<std::streamsize>(text.size()));
-    file.close();
-    if (file.fail())
-        throw std::runtime_error("a file cannot be written");
+    const bool isWritten = file.Write(text);
     CloseChannel();
+    if (!isWritten)
+        throw std::runtime_error("a file cannot be made");
 }
 
 void CloseChannel() {

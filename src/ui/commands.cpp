@@ -13,6 +13,7 @@
 #include "core/state/game_state.h"
 #include "display/command_states.h"
 #include "display/field.h"
+#include "display/news.h"
 #include "display/safe_lines.h"
 #include "display/status_panel.h"
 #include "platform/desktop.h"
@@ -38,6 +39,7 @@ void DrawGame() {
     ShowGamePaused();
     Game.GamePaused = true;
     EnterPhase(Phase::Prepared);
+    TellNews();
 }
 
 void SetUpAndPlay(Command command) {
@@ -207,6 +209,7 @@ void mnuExchange_Click() {
         return;
     Game.CurrentPlayer = ToInteger(OtherPlayer(Game.CurrentPlayer));
     ShowGamePaused();
+    TellNews();
 }
 
 void mnuHint_Click() {

@@ -2,6 +2,7 @@
 
 #include "core/rules/pacing.h"
 #include "core/state/game_state.h"
+#include "display/news.h"
 #include "display/sound.h"
 #include "display/status_panel.h"
 
@@ -46,6 +47,7 @@ void ShowGameOver() {
         ShowWinner(winner);
     else
         ShowDraw();
+    TellNews();
     for (int round = 0; round < BlinkRounds; ++round) {
         Blink(MarkerPair::First);
         Blink(MarkerPair::Second);

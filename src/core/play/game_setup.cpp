@@ -43,5 +43,6 @@ void ForgetTurn() {
     Game.GhostLine = 0;
     Game.ChosenLine = 0;
     Game.LastLine = 0;
+    Game.Told = {};
     ShowAllMarkers(false);
 }

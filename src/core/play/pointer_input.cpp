@@ -5,6 +5,7 @@
 #include "ai/move_selection.h"
 #include "core/state/game_state.h"
 #include "display/field.h"
+#include "display/news.h"
 
 namespace {
 
@@ -110,6 +111,7 @@ void ShowGhostLine(float x, float y) {
     RestoreComputerLine();
     if (PersonIsAwaited() && TablesMatchField())
         PreviewLine(LineAt(x, y));
+    TellGhostLine();
 }
 
 void PressGhostLine() {
@@ -128,4 +130,6 @@ void ShowHint() {
     // On a large field the choice yields, and the person may have paused or quit meanwhile.
     if (PersonIsAwaited())
         PreviewLine(hint);
+    Game.Told.GhostLine = 0; // a hint is told even if it is the line shown before
+    TellGhostLine();
 }

@@ -11,6 +11,7 @@
 #include "core/state/game_state.h"
 #include "display/command_states.h"
 #include "display/field.h"
+#include "display/news.h"
 #include "display/status_panel.h"
 #include "platform/desktop.h"
 #include "platform/picture.h"
@@ -41,8 +42,10 @@ void WaitForPerson() {
 }
 
 void AskPerson() {
-    if (PersonIsToMove())
+    if (PersonIsToMove()) {
         EnterPhase(Phase::PersonToMove);
+        TellNews();
+    }
     frmQuibsMain.picPlayingField.MousePointer = PointerShape::Default;
     WaitForPerson();
     StateOf(Command::Hint).Enabled = false;
@@ -50,6 +53,7 @@ void AskPerson() {
 
 void AskComputer() {
     frmQuibsMain.picPlayingField.MousePointer = PointerShape::Hourglass;
+    TellScoreNowAndThen();
     ChooseComputerMove();
     // The players dialog may have given the turn to a person meanwhile, who chooses for himself.
     if (IsPersonsTurn())
@@ -73,10 +77,17 @@ void DrawFirstPlayer() {
     Game.CurrentPlayer = RandomPick(2);
 }
 
+// A person is told at the beginning of his wait.
+void TellComputersTurn() {
+    if (!IsPersonsTurn() && !Game.QuitRequested)
+        TellNews();
+}
+
 // Draws who begins, and lets a computer wait so that its first line does not come at once.
 void BeginFirstTurn() {
     DrawFirstPlayer();
     ShowTurn(Game.CurrentPlayer);
+    TellComputersTurn();
     if (!IsPersonsTurn())
         Delay(2);
 }
@@ -86,6 +97,7 @@ void ResumeTurn() {
     if (!IsPlayer(Game.CurrentPlayer))
         DrawFirstPlayer();
     ShowTurn(Game.CurrentPlayer);
+    TellComputersTurn();
 }
 
 LoopEnd PlayTurns() {
@@ -124,6 +136,7 @@ void EndLoop(LoopEnd end) {
     case LoopEnd::Paused:
         ShowGamePaused();
         EnterPhase(Phase::Paused);
+        TellNews();
         break;
     case LoopEnd::Quit:
         AbandonGame();
@@ -169,4 +182,5 @@ void AbandonGame() {
     Game.LineCount = 0;
     ClearCounters();
     ClearPicture();
+    TellNews();
 }

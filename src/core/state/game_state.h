@@ -55,6 +55,17 @@ struct SoundList {
     bool operator==(const SoundList&) const = default;
 };
 
+// What somebody who listens has been told of this game.
+struct ToldNews {
+    bool Field = false; // its size and how far it had come
+    Integer LastLine = 0;
+    Integer GhostLine = 0;
+    PerPlayer<Integer> Score;
+    float Time = 0; // seconds since midnight
+
+    bool operator==(const ToldNews&) const = default;
+};
+
 struct GameState {
     // Settings: they survive from game to game.
     PerPlayer<std::string> PlayerName;
@@ -100,6 +111,8 @@ struct GameState {
     Integer LastLine = 0;          // most recently drawn by either player, 0 = none
     Integer ComputerGhostLine = 0; // shown in ComputerGhostColor, 0 = none
     Integer GhostLine = 0;         // shown as hover preview or hint, 0 = none
+
+    ToldNews Told;
 
     // This turn.
     Integer ChosenLine = 0;    // 0 = no move yet

@@ -97,6 +97,14 @@ MessageAnswer ShowMessageBox(const std::string& text, const std::string& title, 
     return answer;
 }
 
+bool IsListenedTo() {
+    return TheNullDesktop.IsListenedTo;
+}
+
+void Say(const std::string& text) {
+    TheNullDesktop.Sayings.push_back(text);
+}
+
 void ShowForm(Form form) {
     TheNullDesktop.Forms.push_back(form);
 }

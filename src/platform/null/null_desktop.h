@@ -45,6 +45,8 @@ struct NullDesktop {
     std::vector<MessageBox> Boxes;
     std::vector<Form> Forms;
     std::optional<WindowPlace> Place;
+    bool IsListenedTo = true;
+    std::vector<std::string> Sayings;
     std::vector<std::string> Sounds; // "Open SndClick.wav", "Play SndClick.wav", "Close"
     std::string WaveDeviceType;
     double SecondsWaited = 0;

@@ -1,6 +1,7 @@
 // The clock, the event queue and the message boxes of the real desktop.
 #include "platform/qt/qt_desktop.h"
 
+#include <QAccessible>
 #include <QApplication>
 #include <QMessageBox>
 #include <QScreen>
@@ -78,6 +79,14 @@ MessageAnswer ShowMessageBox(const std::string& text, const std::string& title, 
     box.setStandardButtons(buttons == MessageButtons::YesNo ? QMessageBox::Yes | QMessageBox::No
                                                             : QMessageBox::Ok);
     return FromQt(box.exec());
+}
+
+bool IsListenedTo() {
+    return QAccessible::isActive();
+}
+
+void Say(const std::string& text) {
+    mainWindow.Say(text);
 }
 
 void ShowForm(Form form) {

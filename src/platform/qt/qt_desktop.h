@@ -8,6 +8,7 @@
 struct MainWindowActions {
     // Brings the window up to date with the controls' data. Called before every yield and box.
     std::function<void()> ShowControls = [] {};
+    std::function<void(const std::string&)> Say = [](const std::string&) {};
     std::function<void(Form)> ShowForm = [](Form) {};
     std::function<void(WindowPlace)> Place = [](WindowPlace) {};
 };

@@ -32,4 +32,6 @@ void EndOnSignals(std::function<void()> endProgram) {
                      });
     for (const int signal : {SIGTERM, SIGINT, SIGHUP})
         (void)std::signal(signal, WakeEventQueue);
+    // A file that grows beyond what the user is allowed is an error like a full disk.
+    (void)std::signal(SIGXFSZ, SIG_IGN);
 }

@@ -4,6 +4,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QVBoxLayout>
 
 #include "ui/commands.h"
@@ -26,20 +27,22 @@ OpenDialog::OpenDialog(QWidget* parent)
     content->addWidget(Lists);
     content->addWidget(txtSelectedFile);
     SetContent(content);
-    connect(Lists, &FileLists::GameClicked, this, [this](const QString& name) {
-        txtSelectedFile->setText(Lists->Directory() + '/' + name);
-    });
-    connect(Lists, &FileLists::GameDoubleClicked, this, &OpenDialog::Ok);
+    connect(Lists, &FileLists::GameClicked, this, &OpenDialog::filFileList_Click);
+    connect(Lists, &FileLists::GameDoubleClicked, cmdOk, &QPushButton::click);
 }
 
-void OpenDialog::Load() {
+void OpenDialog::Form_Load() {
     txtSelectedFile->clear();
     Lists->Load();
 }
 
-bool OpenDialog::Store() {
+void OpenDialog::filFileList_Click(const QString& name) {
+    txtSelectedFile->setText(Lists->Directory() + '/' + name);
+}
+
+void OpenDialog::cmdOk_Click() {
     OpenGame(FileName(txtSelectedFile->text()));
-    return true;
+    accept();
 }
 
 SaveDialog::SaveDialog(QWidget* parent)
@@ -56,16 +59,21 @@ SaveDialog::SaveDialog(QWidget* parent)
     content->addLayout(name);
     content->addWidget(Lists);
     SetContent(content);
-    connect(Lists, &FileLists::GameClicked, txtQuibsGameName, &QLineEdit::setText);
-    connect(Lists, &FileLists::GameDoubleClicked, this, &SaveDialog::Ok);
+    connect(Lists, &FileLists::GameClicked, this, &SaveDialog::filFileList_Click);
+    connect(Lists, &FileLists::GameDoubleClicked, cmdOk, &QPushButton::click);
 }
 
-void SaveDialog::Load() {
+void SaveDialog::Form_Load() {
     txtQuibsGameName->clear();
     Lists->Load();
     txtQuibsGameName->setFocus();
 }
 
-bool SaveDialog::Store() {
-    return SaveGameAs(FileName(Lists->Directory()), FileName(txtQuibsGameName->text()));
+void SaveDialog::filFileList_Click(const QString& name) {
+    txtQuibsGameName->setText(name);
+}
+
+void SaveDialog::cmdOk_Click() {
+    if (SaveGameAs(FileName(Lists->Directory()), FileName(txtQuibsGameName->text())))
+        accept();
 }

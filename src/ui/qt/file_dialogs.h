@@ -13,10 +13,12 @@ public:
     explicit OpenDialog(QWidget* parent);
 
 protected:
-    void Load() override;
-    bool Store() override;
+    void Form_Load() override;
+    void cmdOk_Click() override;
 
 private:
+    void filFileList_Click(const QString& name);
+
     FileLists* Lists;
     QLineEdit* txtSelectedFile;
 };
@@ -28,10 +30,12 @@ public:
     explicit SaveDialog(QWidget* parent);
 
 protected:
-    void Load() override;
-    bool Store() override;
+    void Form_Load() override;
+    void cmdOk_Click() override;
 
 private:
+    void filFileList_Click(const QString& name);
+
     QLineEdit* txtQuibsGameName;
     FileLists* Lists;
 };

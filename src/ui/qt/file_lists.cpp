@@ -54,14 +54,12 @@ FileLists::FileLists(QWidget* parent)
     dirDirectoryList->setIconSize(QSize(iconSize, iconSize));
 
     connect(&Reader, &DirectoryReader::Done, this, &FileLists::ShowContents);
-    connect(drvDriveList, &QComboBox::textActivated, this, &FileLists::ShowDirectory);
-    connect(dirDirectoryList, &QListWidget::itemDoubleClicked, this, &FileLists::EnterDirectory);
-    const auto passOn = [this] {
-        for (const QListWidgetItem* selected : filFileList->selectedItems())
-            emit GameClicked(selected->text());
-    };
-    connect(filFileList, &QListWidget::itemSelectionChanged, this, passOn);
-    connect(filFileList, &QListWidget::itemClicked, this, passOn); // that was selected already
+    connect(drvDriveList, &QComboBox::textActivated, this, &FileLists::drvDriveList_Change);
+    connect(dirDirectoryList, &QListWidget::itemDoubleClicked, this,
+            &FileLists::dirDirectoryList_DblClick);
+    connect(filFileList, &QListWidget::itemSelectionChanged, this, &FileLists::filFileList_Click);
+    // A game that was selected already.
+    connect(filFileList, &QListWidget::itemClicked, this, &FileLists::filFileList_Click);
     connect(filFileList, &QListWidget::itemDoubleClicked, this, &FileLists::GameDoubleClicked);
 }
 
@@ -80,7 +78,7 @@ bool FileLists::eventFilter(QObject* watched, QEvent* event) {
     const int key = static_cast<QKeyEvent*>(event)->key();
     // Return enters the directory; it must not reach the dialog's Ok.
     if (watched == dirDirectoryList && (key == Qt::Key_Return || key == Qt::Key_Enter)) {
-        EnterDirectory(dirDirectoryList->currentItem());
+        dirDirectoryList_DblClick(dirDirectoryList->currentItem());
         return true;
     }
     // The first press goes to the first game; by itself the list would pass it over.
@@ -93,7 +91,6 @@ bool FileLists::eventFilter(QObject* watched, QEvent* event) {
 
 void FileLists::ShowDirectory(const QString& directory) {
     ShownDirectory = directory;
-    filFileList->clear();
     dirDirectoryList->clear();
     // The way from the root, one step deeper each.
     AddDirectory("/", "/", 0);
@@ -104,7 +101,12 @@ void FileLists::ShowDirectory(const QString& directory) {
         AddDirectory(path, name, ++depth);
     }
     dirDirectoryList->setCurrentRow(depth);
-    Reader.Read(directory);
+    dirDirectoryList_Change();
+}
+
+void FileLists::dirDirectoryList_Change() {
+    filFileList->clear();
+    Reader.Read(ShownDirectory);
 }
 
 void FileLists::ShowContents(const DirectoryContents& contents) {
@@ -122,7 +124,12 @@ void FileLists::AddDirectory(const QString& path, const QString& name, int depth
     item->setData(PathRole, path);
 }
 
-void FileLists::EnterDirectory(const QListWidgetItem* item) {
+void FileLists::dirDirectoryList_DblClick(const QListWidgetItem* item) {
     if (item != nullptr)
         ShowDirectory(item->data(PathRole).toString());
+}
+
+void FileLists::filFileList_Click() {
+    for (const QListWidgetItem* selected : filFileList->selectedItems())
+        emit GameClicked(selected->text());
 }

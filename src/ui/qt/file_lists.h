@@ -30,10 +30,14 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    void drvDriveList_Change(const QString& drive) { ShowDirectory(drive); }
+    void dirDirectoryList_Change();
+    void dirDirectoryList_DblClick(const QListWidgetItem* item);
+    void filFileList_Click();
+
     void ShowDirectory(const QString& directory);
     void ShowContents(const DirectoryContents& contents);
     void AddDirectory(const QString& path, const QString& name, int depth);
-    void EnterDirectory(const QListWidgetItem* item);
 
     QComboBox* drvDriveList;
     QListWidget* dirDirectoryList;

@@ -14,7 +14,7 @@ FormDialog::FormDialog(QWidget* parent, const char* objectName, const char* capt
 
 void FormDialog::OpenOrRaise() {
     if (!isVisible()) {
-        Load();
+        Form_Load();
         show();
     }
     raise();
@@ -22,14 +22,14 @@ void FormDialog::OpenOrRaise() {
 }
 
 void FormDialog::SetContent(QLayout* content) {
-    auto* cmdOk = new QPushButton("Ok", this);
+    cmdOk = new QPushButton("Ok", this);
     cmdOk->setObjectName("cmdOk");
     cmdOk->setDefault(true);
     auto* cmdCancel = new QPushButton("Cancel", this);
     cmdCancel->setObjectName("cmdCancel");
     cmdCancel->setAutoDefault(false);
-    connect(cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
-    connect(cmdOk, &QPushButton::clicked, this, &FormDialog::Ok);
+    connect(cmdOk, &QPushButton::clicked, this, [this] { RunGuarded([this] { cmdOk_Click(); }); });
+    connect(cmdCancel, &QPushButton::clicked, this, &FormDialog::cmdCancel_Click);
 
     auto* buttons = new QHBoxLayout;
     buttons->addStretch();
@@ -39,11 +39,4 @@ void FormDialog::SetContent(QLayout* content) {
     all->setSpacing(16);
     all->addLayout(content);
     all->addLayout(buttons);
-}
-
-void FormDialog::Ok() {
-    bool isDone = true;
-    RunGuarded([&] { isDone = Store(); });
-    if (isDone)
-        accept();
 }

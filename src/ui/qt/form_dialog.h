@@ -4,8 +4,8 @@
 
 #include <QDialog>
 
-class QGridLayout;
 class QLayout;
+class QPushButton;
 
 class FormDialog : public QDialog {
     Q_OBJECT
@@ -19,11 +19,13 @@ protected:
 
     // Lays `content` out above the buttons "Ok" and "Cancel".
     void SetContent(QLayout* content);
-    void Ok();
 
     // Fills the controls from the game.
-    virtual void Load() = 0;
+    virtual void Form_Load() = 0;
 
-    // Ok: carries out what the controls say. Returns false when the dialog is to stay open.
-    virtual bool Store() = 0;
+    // Carries out what the controls say, and closes the dialog unless something is missing.
+    virtual void cmdOk_Click() = 0;
+    void cmdCancel_Click() { reject(); }
+
+    QPushButton* cmdOk = nullptr; // once the content is set
 };

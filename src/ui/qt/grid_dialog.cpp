@@ -39,10 +39,14 @@ GridDialog::GridDialog(QWidget* parent)
         AddBoxCount(grid, 0, "FieldBoxesHorz", "Number of Horizontal Boxes to Form");
     comFieldBoxesVert = AddBoxCount(grid, 1, "FieldBoxesVert", "Number of Vertical Boxes to Form");
     grid->setRowMinimumHeight(2, 12);
-    shpGridBckGrnd = AddColor(grid, 3, "GridBckGrnd", "Color of Background");
-    shpGridLine = AddColor(grid, 4, "GridLine", "Color of Quibs and Lines");
-    shpGridGhost = AddColor(grid, 5, "GridGhost", "Color of Ghost Line");
-    shpGridComputer = AddColor(grid, 6, "GridComputer", "Color of Computer Ghost Line");
+    shpGridBckGrnd =
+        AddColor(grid, 3, "GridBckGrnd", "Color of Background", &GridDialog::cmdGridBckGrnd_Click);
+    shpGridLine =
+        AddColor(grid, 4, "GridLine", "Color of Quibs and Lines", &GridDialog::cmdGridLine_Click);
+    shpGridGhost =
+        AddColor(grid, 5, "GridGhost", "Color of Ghost Line", &GridDialog::cmdGridGhost_Click);
+    shpGridComputer = AddColor(grid, 6, "GridComputer", "Color of Computer Ghost Line",
+                               &GridDialog::cmdGridComputer_Click);
     grid->setColumnStretch(0, 1);
     SetContent(grid);
     layout()->setSizeConstraint(QLayout::SetFixedSize);
@@ -61,7 +65,8 @@ QComboBox* GridDialog::AddBoxCount(QGridLayout* grid, int row, const char* name,
     return list;
 }
 
-Swatch* GridDialog::AddColor(QGridLayout* grid, int row, const char* name, const char* caption) {
+Swatch* GridDialog::AddColor(QGridLayout* grid, int row, const char* name, const char* caption,
+                             void (GridDialog::*cmd_Click)()) {
     auto* label = new QLabel(caption, this);
     label->setObjectName(QString("lbl") + name);
     auto* swatch = new Swatch(QString("shp") + name, caption, this);
@@ -69,14 +74,14 @@ Swatch* GridDialog::AddColor(QGridLayout* grid, int row, const char* name, const
     button->setObjectName(QString("cmd") + name);
     button->setAccessibleName(QString("Choose the ") + caption);
     button->setAutoDefault(false);
-    connect(button, &QPushButton::clicked, this, [swatch] { PickColor(swatch); });
+    connect(button, &QPushButton::clicked, this, cmd_Click);
     grid->addWidget(label, row, 0);
     grid->addWidget(swatch, row, 1);
     grid->addWidget(button, row, 2);
     return swatch;
 }
 
-void GridDialog::Load() {
+void GridDialog::Form_Load() {
     shpGridBckGrnd->SetFillColor(Game.BackgroundColor);
     shpGridComputer->SetFillColor(Game.ComputerGhostColor);
     shpGridLine->SetFillColor(Game.PointColor);
@@ -87,7 +92,23 @@ void GridDialog::Load() {
     comFieldBoxesHorz->setFocus();
 }
 
-bool GridDialog::Store() {
+void GridDialog::cmdGridBckGrnd_Click() {
+    PickColor(shpGridBckGrnd);
+}
+
+void GridDialog::cmdGridLine_Click() {
+    PickColor(shpGridLine);
+}
+
+void GridDialog::cmdGridGhost_Click() {
+    PickColor(shpGridGhost);
+}
+
+void GridDialog::cmdGridComputer_Click() {
+    PickColor(shpGridComputer);
+}
+
+void GridDialog::cmdOk_Click() {
     Game.SettingsChanged = true;
     Game.BackgroundColor = shpGridBckGrnd->FillColor();
     frmQuibsMain.picPlayingField.BackColor = Game.BackgroundColor;
@@ -96,5 +117,5 @@ bool GridDialog::Store() {
     Game.PointColor = shpGridLine->FillColor();
     StoreBoxCount(comFieldBoxesHorz, Game.GridColumns);
     StoreBoxCount(comFieldBoxesVert, Game.GridRows);
-    return true;
+    accept();
 }

@@ -15,12 +15,18 @@ public:
     explicit GridDialog(QWidget* parent);
 
 protected:
-    void Load() override;
-    bool Store() override;
+    void Form_Load() override;
+    void cmdOk_Click() override;
 
 private:
     QComboBox* AddBoxCount(QGridLayout* grid, int row, const char* name, const char* caption);
-    Swatch* AddColor(QGridLayout* grid, int row, const char* name, const char* caption);
+    Swatch* AddColor(QGridLayout* grid, int row, const char* name, const char* caption,
+                     void (GridDialog::*cmd_Click)());
+
+    void cmdGridBckGrnd_Click();
+    void cmdGridLine_Click();
+    void cmdGridGhost_Click();
+    void cmdGridComputer_Click();
 
     QComboBox* comFieldBoxesHorz;
     QComboBox* comFieldBoxesVert;

@@ -1,11 +1,11 @@
 #include "ui/qt/help_viewer.h"
 
-#include <QFile>
 #include <QHBoxLayout>
 #include <QPushButton>
 #include <QTextBrowser>
 #include <QVBoxLayout>
 
+#include "base/files.h"
 #include "core/state/game_state.h"
 #include "ui/qt/rich_text_view.h"
 
@@ -13,12 +13,8 @@ namespace {
 
 constexpr QSize InitialSize(620, 460); // pixels
 
-RichText ReadDocument(const QString& fileName) {
-    QFile file(fileName);
-    if (!file.open(QIODevice::ReadOnly))
-        return {};
-    const QByteArray bytes = file.read(LargestRichText + 1);
-    return ReadRichText({bytes.constData(), static_cast<std::size_t>(bytes.size())});
+RichText ReadDocument(const char* name) {
+    return ReadRichText(ReadRegularFile(name, LargestRichText + 1).value_or(""));
 }
 
 } // namespace
@@ -31,7 +27,7 @@ HelpViewer::HelpViewer(QWidget* parent) : QDialog(parent), rtfHelp(new QTextBrow
     auto* cmdOk = new QPushButton("Ok", this);
     cmdOk->setObjectName("cmdOk");
     cmdOk->setDefault(true);
-    connect(cmdOk, &QPushButton::clicked, this, &QDialog::accept);
+    connect(cmdOk, &QPushButton::clicked, this, &HelpViewer::cmdOk_Click);
 
     auto* buttons = new QHBoxLayout;
     buttons->addStretch();
@@ -43,11 +39,15 @@ HelpViewer::HelpViewer(QWidget* parent) : QDialog(parent), rtfHelp(new QTextBrow
 }
 
 void HelpViewer::OpenOrRaise() {
+    Form_Load();
+    show();
+    raise();
+    activateWindow();
+}
+
+void HelpViewer::Form_Load() {
     setWindowTitle(Game.ShowHistory ? "Quiblink History" : "Quiblink Help");
     ShowRichText(ReadDocument(Game.ShowHistory ? "qblnkhst.rtf" : "quiblnk.rtf"),
                  *rtfHelp->document());
     rtfHelp->moveCursor(QTextCursor::Start);
-    show();
-    raise();
-    activateWindow();
 }

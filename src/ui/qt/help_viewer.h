@@ -16,5 +16,8 @@ public:
     void OpenOrRaise();
 
 private:
+    void Form_Load();
+    void cmdOk_Click() { accept(); }
+
     QTextBrowser* rtfHelp;
 };

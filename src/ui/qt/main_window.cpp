@@ -58,6 +58,10 @@ MainWindow::MainWindow()
     BuildMenus();
     BuildToolBar();
     UseMainWindow({.ShowControls = [this] { ShowControls(); },
+                   .Say =
+                       [this](const std::string& text) {
+                           picPlayingField->Say(QString::fromStdString(text));
+                       },
                    .ShowForm = [this](Form form) { ShowForm(form); },
                    .Place = [this](WindowPlace place) { Place(place); }});
     connect(picPlayingField, &PlayingField::PictureOutdated, this, &MainWindow::LayOut,

@@ -67,7 +67,8 @@ PlayersDialog::PlayerControls PlayersDialog::AddPlayer(QGridLayout* grid, int pl
     button->setAccessibleName(QString("Choose the color of player %1").arg(number));
     button->setAutoDefault(false);
     connect(button, &QPushButton::clicked, this,
-            [swatch = controls.shpColor] { PickColor(swatch); });
+            player == 1 ? &PlayersDialog::cmdPlayer1Color_Click
+                        : &PlayersDialog::cmdPlayer2Color_Click);
 
     controls.Kinds = new QButtonGroup(this);
     auto* color = new QHBoxLayout;
@@ -96,7 +97,7 @@ QGroupBox* PlayersDialog::AddKinds(int player, QButtonGroup* kinds) {
     return frame;
 }
 
-void PlayersDialog::Load() {
+void PlayersDialog::Form_Load() {
     for (const int player : {1, 2}) {
         const PlayerControls& controls = Players.at(player);
         controls.txtName->setText(QString::fromStdString(Game.PlayerName.at(player)));
@@ -109,7 +110,15 @@ void PlayersDialog::Load() {
     Players.at(1).txtName->selectAll();
 }
 
-bool PlayersDialog::Store() {
+void PlayersDialog::cmdPlayer1Color_Click() {
+    PickColor(Players.at(1).shpColor);
+}
+
+void PlayersDialog::cmdPlayer2Color_Click() {
+    PickColor(Players.at(2).shpColor);
+}
+
+void PlayersDialog::cmdOk_Click() {
     Game.SettingsChanged = true;
     for (const int player : {1, 2}) {
         const PlayerControls& controls = Players.at(player);
@@ -120,5 +129,5 @@ bool PlayersDialog::Store() {
     }
     ShowPlayerStatus(1);
     ShowPlayerStatus(2);
-    return true;
+    accept();
 }

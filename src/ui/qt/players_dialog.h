@@ -5,6 +5,7 @@
 #include "ui/qt/form_dialog.h"
 
 class QButtonGroup;
+class QGridLayout;
 class QGroupBox;
 class QLineEdit;
 class Swatch;
@@ -16,8 +17,8 @@ public:
     explicit PlayersDialog(QWidget* parent);
 
 protected:
-    void Load() override;
-    bool Store() override;
+    void Form_Load() override;
+    void cmdOk_Click() override;
 
 private:
     struct PlayerControls {
@@ -28,6 +29,9 @@ private:
 
     PlayerControls AddPlayer(QGridLayout* grid, int player);
     QGroupBox* AddKinds(int player, QButtonGroup* kinds);
+
+    void cmdPlayer1Color_Click();
+    void cmdPlayer2Color_Click();
 
     PerPlayer<PlayerControls> Players;
 };

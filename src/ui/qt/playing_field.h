@@ -12,12 +12,22 @@ public:
     // Shows background and pointer as the controls' data have them.
     void ShowControls();
 
+    // Says a text to a screen reader as soon as the keyboard is on the field. Only the latest of
+    // what waits is said.
+    void Say(const QString& text);
+
 signals:
     // The screen has other pixels than the picture, or the picture another size.
     void PictureOutdated();
 
 protected:
+    void focusInEvent(QFocusEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
+
+private:
+    void SayWhatWaits();
+
+    QString Unsaid;
 };

@@ -1,0 +1,107 @@
+#include "display/news.h"
+
+#include "core/state/game_state.h"
+#include "display/field.h"
+#include "display/status_panel.h"
+#include "display/words.h"
+#include "platform/desktop.h"
+
+namespace {
+
+constexpr float SecondsBetweenScores = 15;
+
+bool ComputersPlayEachOther() {
+    return Game.PlayerKind.at(1) != Humanoid && Game.PlayerKind.at(2) != Humanoid;
+}
+
+std::string FieldInWords() {
+    return std::to_string(FieldColumns()) + " by " + std::to_string(FieldRows()) + " boxes, " +
+           std::to_string(Game.LinesDrawn) + " of " + std::to_string(Game.LineCount) +
+           " lines drawn";
+}
+
+std::string ScoreInWords() {
+    return Game.PlayerName.at(1) + " " + std::to_string(Game.PlayerScore.at(1)) + ", " +
+           Game.PlayerName.at(2) + " " + std::to_string(Game.PlayerScore.at(2));
+}
+
+// The last line, if it passed the turn and is new. One that took a box was drawn by the player who
+// is still to move and knows it.
+std::string NewLineOfOther() {
+    const Line& last = Game.Lines.at(Game.LastLine);
+    if (Game.LastLine == Game.Told.LastLine || Game.Boxes.at(last.FirstBox).SidesDrawn == 4 ||
+        Game.Boxes.at(last.SecondBox).SidesDrawn == 4)
+        return "";
+    return LineInWords(Game.LastLine);
+}
+
+// "Guardian drew across, row 3, column 4, and took 2 boxes".
+std::string DeedsOf(int player) {
+    const std::string line = player == OtherPlayer(Game.CurrentPlayer) ? NewLineOfOther() : "";
+    const int boxes = Game.PlayerScore.at(player) - Game.Told.Score.at(player);
+    std::string deeds = line.empty() ? "" : " drew " + line;
+    if (boxes > 0)
+        deeds += std::string(line.empty() ? "" : ", and") + " took " +
+                 (boxes == 1 ? "a box" : std::to_string(boxes) + " boxes");
+    return deeds.empty() ? "" : Game.PlayerName.at(player) + deeds;
+}
+
+void Append(std::string& news, const std::string& sentence) {
+    if (sentence.empty())
+        return;
+    news += (news.empty() ? "" : " ") + sentence;
+    if (news.back() != '.')
+        news += '.';
+}
+
+std::string News() {
+    if (Game.BoxCount == 0)
+        return "No game.";
+    std::string news;
+    if (!Game.GameOverShown)
+        Append(news, TurnText(Game.CurrentPlayer));
+    if (!Game.Told.Field)
+        Append(news, FieldInWords());
+    else if (!ComputersPlayEachOther())
+        for (const int player : {1, 2})
+            Append(news, DeedsOf(player));
+    if (Game.PlayerScore != Game.Told.Score || Game.GameOverShown)
+        Append(news, ScoreInWords());
+    if (Game.GameOverShown)
+        Append(news, OutcomeText());
+    else if (Game.GamePaused)
+        Append(news, "GAME PAUSED");
+    return news;
+}
+
+void Tell(const std::string& text) {
+    Game.Told = {.Field = true,
+                 .LastLine = Game.LastLine,
+                 .GhostLine = Game.GhostLine,
+                 .Score = Game.PlayerScore,
+                 .Time = SecondsSinceMidnight()};
+    Say(text);
+}
+
+} // namespace
+
+void TellNews() {
+    if (IsListenedTo())
+        Tell(News());
+}
+
+void TellScoreNowAndThen() {
+    if (!IsListenedTo() || !ComputersPlayEachOther() || Game.PlayerScore == Game.Told.Score)
+        return;
+    const float seconds = SecondsSinceMidnight() - Game.Told.Time;
+    if (seconds < 0 || seconds >= SecondsBetweenScores) // or midnight has passed
+        Tell(ScoreInWords());
+}
+
+void TellGhostLine() {
+    if (!IsListenedTo() || Game.GhostLine == Game.Told.GhostLine)
+        return;
+    Game.Told.GhostLine = Game.GhostLine;
+    if (Game.GhostLine > 0)
+        Say(GhostLineInWords());
+}

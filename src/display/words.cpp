@@ -1,0 +1,78 @@
+#include "display/words.h"
+
+#include <algorithm>
+#include <array>
+
+#include "core/state/game_state.h"
+#include "display/field.h"
+
+namespace {
+
+int BoxesBesideWith(int sidesDrawn, const Line& line) {
+    int count = 0;
+    for (const Integer box : {line.FirstBox, line.SecondBox})
+        count += Game.Boxes.at(box).SidesDrawn == sidesDrawn ? 1 : 0;
+    return count;
+}
+
+std::string EffectInWords(int line) {
+    const Line& candidate = Game.Lines.at(line);
+    if (const int closed = BoxesBesideWith(3, candidate); closed > 0)
+        return closed == 1 ? "closes a box" : "closes two boxes";
+    if (const int given = BoxesBesideWith(2, candidate); given > 0)
+        return given == 1 ? "gives a box away" : "gives two boxes away";
+    return "free";
+}
+
+struct NamedColor {
+    Color Value;
+    const char* Name;
+};
+
+constexpr std::array ClassicColors{
+    NamedColor{0x000000, "black"},        NamedColor{0x800000, "blue"},
+    NamedColor{0x008000, "green"},        NamedColor{0x808000, "cyan"},
+    NamedColor{0x000080, "red"},          NamedColor{0x800080, "magenta"},
+    NamedColor{0x008080, "yellow"},       NamedColor{0xC0C0C0, "white"},
+    NamedColor{0x808080, "gray"},         NamedColor{0xFF0000, "light blue"},
+    NamedColor{0x00FF00, "light green"},  NamedColor{0xFFFF00, "light cyan"},
+    NamedColor{0x0000FF, "light red"},    NamedColor{0xFF00FF, "light magenta"},
+    NamedColor{0x00FFFF, "light yellow"}, NamedColor{0xFFFFFF, "bright white"}};
+
+// Squared, over the three bytes.
+int Distance(Color first, Color second) {
+    int distance = 0;
+    for (const int shift : {0, 8, 16}) {
+        const int difference = ((first >> shift) & 0xFF) - ((second >> shift) & 0xFF);
+        distance += difference * difference;
+    }
+    return distance;
+}
+
+} // namespace
+
+std::string LineInWords(int line) {
+    if (line < 1 || line > Game.LineCount || !TablesMatchField())
+        return "";
+    const bool isAcross = line <= Game.HorizontalLineCount;
+    const int place = isAcross ? line - 1 : line - 1 - Game.HorizontalLineCount;
+    const int perRun = isAcross ? FieldColumns() : FieldRows();
+    const int run = place / perRun + 1; // lines across run in rows, lines down in columns
+    const int inRun = place % perRun + 1;
+    return std::string(isAcross ? "across" : "down") + ", row " +
+           std::to_string(isAcross ? run : inRun) + ", column " +
+           std::to_string(isAcross ? inRun : run);
+}
+
+std::string GhostLineInWords() {
+    const std::string line = LineInWords(Game.GhostLine);
+    return line.empty() ? line : line + ", " + EffectInWords(Game.GhostLine);
+}
+
+std::string ColorInWords(Color color) {
+    return std::min_element(ClassicColors.begin(), ClassicColors.end(),
+                            [color](const NamedColor& first, const NamedColor& second) {
+                                return Distance(first.Value, color) < Distance(second.Value, color);
+                            })
+        ->Name;
+}
