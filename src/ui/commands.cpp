@@ -290,6 +290,23 @@ void picPlayingField_MouseDown() {
     PressGhostLine();
 }
 
+void picPlayingField_KeyDown(FieldKey key) {
+    switch (key) {
+    case FieldKey::Left:
+        return MoveGhostLine(Direction::Left);
+    case FieldKey::Up:
+        return MoveGhostLine(Direction::Up);
+    case FieldKey::Right:
+        return MoveGhostLine(Direction::Right);
+    case FieldKey::Down:
+        return MoveGhostLine(Direction::Down);
+    case FieldKey::Turn:
+        return TurnGhostLine();
+    case FieldKey::Draw:
+        return PressGhostLine();
+    }
+}
+
 void picPlayingField_MouseMove(float x, float y) {
     // Desktops repeat the last position, as when a window over the field closes; that must not
     // erase a hint.

@@ -5,6 +5,7 @@
 #include <QCloseEvent>
 #include <QMenuBar>
 #include <QScreen>
+#include <QShortcut>
 #include <QToolBar>
 #include <cmath>
 
@@ -55,6 +56,7 @@ MainWindow::MainWindow()
     setCentralWidget(ClientArea);
     ClientArea->installEventFilter(this);
     fraStatistics->installEventFilter(this);
+    picPlayingField->setFocus();
     BuildMenus();
     BuildToolBar();
     UseMainWindow({.ShowControls = [this] { ShowControls(); },
@@ -122,6 +124,9 @@ void MainWindow::BuildMenus() {
     AddCommand(help, Command::History, "mnuHistory", "Quibs Histor&y", "Ctrl+Y");
     help->addSeparator();
     AddCommand(help, Command::About, "mnuAbout", "A&bout", "Ctrl+B");
+
+    connect(new QShortcut(Qt::Key_F10, this), &QShortcut::activated, this,
+            [this] { menuBar()->setActiveAction(menuBar()->actions().first()); });
 }
 
 QAction* MainWindow::AddCommand(QMenu* menu, Command command, const char* objectName,
