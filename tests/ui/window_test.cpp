@@ -10,6 +10,7 @@ namespace {
 
 constexpr unsigned Background = 0x000000; // the built-in colours
 constexpr unsigned Drawn = 0xFFFFFF;
+constexpr unsigned Text = 0x000000;
 constexpr unsigned Ghost = 0xFF0000;
 constexpr int Spacing = 25;
 
@@ -156,6 +157,35 @@ TEST_F(RealWindow, AnswersItsMenusByAccessKeyAndEndsWithinASecondBehindADialog) 
     EXPECT_EQ(WaitForExit(1000), 0);
 }
 
+TEST_F(RealWindow, DrawsItsDocuments) {
+    Open("ctrl+h", "Quiblink Help");
+    Await("the help", [&] { return AreaOf(Text).height() > 100; });
+    Press("Return");
+    WaitForFocus("Quiblink");
+    // A centred, an indented and a large block, the last in the second of two columns.
+    std::filesystem::remove("qblnkhst.rtf");
+    PutBytes("qblnkhst.rtf",
+             "{\\rtf1{\\colortbl;\\red255;\\green255;\\blue255;}"
+             "\\fs40\\qc\\cf1\\u9608?\\par\\pard\\li1500\\cf2\\u9608?\\par"
+             "\\trowd\\cellx3000\\cellx6000\\pard\\cf3\\cell\\fs80\\u9608?\\cell\\row}");
+    Open("ctrl+y", "Quiblink History");
+    Await("the history", [&] { return !AreaOf(0x0000FF).isEmpty(); });
+    const QRect window = FocusedArea();
+    const QRect centred = AreaOf(0xFF0000);
+    const QRect indented = AreaOf(0x00FF00);
+    const QRect inCell = AreaOf(0x0000FF);
+    EXPECT_NEAR(centred.center().x(), window.center().x(), 12);
+    EXPECT_NEAR(indented.left(), window.left() + 114, 6);
+    EXPECT_NEAR(inCell.left(), window.center().x(), 12);
+    EXPECT_NEAR(inCell.height(), 2 * centred.height(), 2);
+    EXPECT_TRUE(indented.top() > centred.bottom() && inCell.top() > indented.bottom());
+    Press("Return");
+    WaitForFocus("Quiblink");
+    Use("alt+h b", "About Quiblink", "Return");
+    Press("ctrl+x");
+    EXPECT_EQ(WaitForExit(), 0);
+}
+
 TEST_F(RealWindow, KeepsAGameAndTheSettingsInFiles) {
     Use("ctrl+r", "Define Playing Grid", "3 Tab 2 Return");
     // Both players become persons.
@@ -163,11 +193,18 @@ TEST_F(RealWindow, KeepsAGameAndTheSettingsInFiles) {
     StartGame("ctrl+t", 3, 2);
     PlayOn(5);
 
+    const QSize size = FocusedArea().size();
+    Resize(size + QSize(80, 60));
+    Await("the field in its new place",
+          [&] { return FocusedArea().size() != size && FindField(3, 2) && CountDrawn() == 5; });
     Press("ctrl+u"); // pauses
     Use("ctrl+s", "Save a Quibs Game", "s t o r y Return");
     EXPECT_TRUE(std::filesystem::exists("story.qbs"));
     QuitGame();
-    Use("ctrl+o", "Open a Quibs Game", "Tab s t o r y period q b s Return"); // past the list
+    Open("ctrl+o", "Open a Quibs Game");
+    const QRect dialog = FocusedArea();
+    DoubleClick({dialog.center().x() + 40, dialog.top() + 25}); // the first game in the list
+    WaitForFocus("Quiblink");
     Await("the saved lines", [&] { return CountDrawn() == 5; });
     Press("ctrl+t");
     PlayOn(17);
