@@ -56,6 +56,11 @@ protected:
         WaitForFocus("Quiblink");
     }
 
+    void Exit() {
+        Press("ctrl+x");
+        EXPECT_EQ(WaitForExit(), 0);
+    }
+
     void QuitGame() {
         Use("ctrl+q", "Quit the Game", "alt+y");
         Await("the cleared field", [&] { return AllPointsAre(Background); });
@@ -137,8 +142,7 @@ TEST_F(RealWindow, PlaysAWholeGameOfAPersonAgainstAComputerSetInTheDialogs) {
     Press("ctrl+t");
     Await("an empty field", [&] { return CountDrawn() <= 1; });
     QuitGame();
-    Press("ctrl+x");
-    EXPECT_EQ(WaitForExit(), 0);
+    Exit();
 }
 
 TEST_F(RealWindow, AnswersItsMenusByAccessKeyAndEndsWithinASecondBehindADialog) {
@@ -146,9 +150,10 @@ TEST_F(RealWindow, AnswersItsMenusByAccessKeyAndEndsWithinASecondBehindADialog) 
     StartGame("alt+g a", 4, 4); // Game, Auto
     Await("an automatic game", [&] { return CountDrawn() >= 16; });
     Use("ctrl+x", "Exit the Game", "Escape");
-    Use("ctrl+h", "Quiblink Help", "Return");
-    Open("ctrl+y", "Quiblink History");
-    Click(FocusedArea().bottomRight() - QPoint(50, 25)); // its Ok
+    Use("alt+h b", "About Quiblink", "Return");
+    Open("ctrl+h", "Quiblink Help");
+    Await("the help", [&] { return AreaOf(Text).height() > 100; });
+    Press("Return");
     WaitForFocus("Quiblink");
 
     const QRect window = FocusedArea();
@@ -157,11 +162,7 @@ TEST_F(RealWindow, AnswersItsMenusByAccessKeyAndEndsWithinASecondBehindADialog) 
     EXPECT_EQ(WaitForExit(1000), 0);
 }
 
-TEST_F(RealWindow, DrawsItsDocuments) {
-    Open("ctrl+h", "Quiblink Help");
-    Await("the help", [&] { return AreaOf(Text).height() > 100; });
-    Press("Return");
-    WaitForFocus("Quiblink");
+TEST_F(RealWindow, DrawsADocument) {
     // A centred, an indented and a large block, the last in the second of two columns.
     std::filesystem::remove("qblnkhst.rtf");
     PutBytes("qblnkhst.rtf",
@@ -179,11 +180,9 @@ TEST_F(RealWindow, DrawsItsDocuments) {
     EXPECT_NEAR(inCell.left(), window.center().x(), 12);
     EXPECT_NEAR(inCell.height(), 2 * centred.height(), 2);
     EXPECT_TRUE(indented.top() > centred.bottom() && inCell.top() > indented.bottom());
-    Press("Return");
+    Click(window.bottomRight() - QPoint(50, 25)); // its Ok
     WaitForFocus("Quiblink");
-    Use("alt+h b", "About Quiblink", "Return");
-    Press("ctrl+x");
-    EXPECT_EQ(WaitForExit(), 0);
+    Exit();
 }
 
 TEST_F(RealWindow, KeepsAGameAndTheSettingsInFiles) {
@@ -217,14 +216,12 @@ TEST_F(RealWindow, KeepsAGameAndTheSettingsInFiles) {
     Press("Return");
     WaitForFocus("Quiblink");
     Await("the chosen colour", [&] { return ShownBackground() == 0x0000AA; });
-    Press("ctrl+x");
-    EXPECT_EQ(WaitForExit(), 0);
+    Exit();
 
     StartProgram();
     WaitForFocus("Quiblink");
     Await("the colour of the first run", [&] { return ShownBackground() == 0x0000AA; });
-    Press("ctrl+x");
-    EXPECT_EQ(WaitForExit(), 0);
+    Exit();
 }
 
 } // namespace
