@@ -6,6 +6,7 @@
 #include <QMenuBar>
 #include <QScreen>
 #include <QToolBar>
+#include <QWindow>
 #include <cmath>
 
 #include "core/state/game_state.h"
@@ -21,6 +22,7 @@
 #include "ui/qt/playing_field.h"
 #include "ui/qt/status_frame.h"
 #include "ui/qt/svg_icon.h"
+#include "ui/qt/window_place.h"
 #include "ui/window_layout.h"
 
 namespace {
@@ -74,6 +76,7 @@ void MainWindow::Open() {
     RunGuarded(Form_Load);
     ShowControls();
     show();
+    windowHandle()->installEventFilter(this);
 }
 
 void MainWindow::EndProgram() {
@@ -90,6 +93,10 @@ void MainWindow::closeEvent(QCloseEvent* event) {
 bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
     if (watched == ClientArea && event->type() == QEvent::Resize)
         LayOut();
+    if (watched == windowHandle() && event->type() == QEvent::Expose) {
+        watched->removeEventFilter(this);
+        TakeFrame();
+    }
     return QMainWindow::eventFilter(watched, event);
 }
 
@@ -173,34 +180,33 @@ void MainWindow::BuildToolBar() {
 void MainWindow::Place(WindowPlace place) {
     setMinimumSize(fraStatistics->width() + ToPixels(FrameMargin, Game.TwipsPerPixelX),
                    SmallestHeight());
-    const QScreen* screen = QApplication::primaryScreen();
-    const QRect area = screen->geometry();
-    resize(InitialSize.boundedTo(screen->availableSize() - RoomForFrame));
+    resize(InitialSize.boundedTo(screen()->availableSize() - RoomForFrame));
     if (place == WindowPlace::Centred) {
-        move(area.left() + (area.width() - width()) / 2,
-             area.top() + (area.height() - height()) / 2);
+        CentreOnScreen(*this);
     } else {
-        move(area.topLeft());
+        move(screen()->geometry().topLeft());
         setWindowState(Qt::WindowMaximized);
     }
-    connect(screen, &QScreen::availableGeometryChanged, this, &MainWindow::KeepOnScreen);
+    FollowScreens();
 }
 
-void MainWindow::KeepOnScreen(const QRect& workArea) {
-    if (isMaximized() || isFullScreen())
-        return; // the desktop keeps such a window on the screen, and moving it would end that state
-    QRect frame = frameGeometry();
-    const QSize borders = frame.size() - size();
-    if (workArea.height() < frame.height()) {
-        frame.setTop(workArea.top());
-        frame.setHeight(workArea.height());
-    }
-    if (workArea.width() < frame.width()) {
-        frame.setLeft(workArea.left());
-        frame.setWidth(workArea.width());
-    }
-    move(frame.topLeft());
-    resize(frame.size() - borders);
+void MainWindow::TakeFrame() {
+    if (!isMaximized())
+        CentreOnScreen(*this);
+    KeepOnScreen(*this);
+}
+
+void MainWindow::FollowScreens() {
+    const auto keep = [this] { KeepOnScreen(*this); };
+    const auto follow = [this, keep](QScreen* screen) {
+        connect(screen, &QScreen::availableGeometryChanged, this, keep);
+    };
+    for (QScreen* screen : QGuiApplication::screens())
+        follow(screen);
+    connect(qGuiApp, &QGuiApplication::screenAdded, this, follow);
+    // Later, when the window has found out which screen it is on now.
+    connect(qGuiApp, &QGuiApplication::screenAdded, this, keep, Qt::QueuedConnection);
+    connect(qGuiApp, &QGuiApplication::screenRemoved, this, keep, Qt::QueuedConnection);
 }
 
 int MainWindow::SmallestHeight() const {

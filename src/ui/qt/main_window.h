@@ -40,7 +40,9 @@ private:
     QAction* ActionOf(Command command) const;
 
     void Place(WindowPlace place);
-    void KeepOnScreen(const QRect& workArea);
+    // Now that the desktop has put a title bar and borders around the window.
+    void TakeFrame();
+    void FollowScreens();
     int SmallestHeight() const;
     void LayOut();
     void ShowControls();
