@@ -30,7 +30,7 @@ void StartServer() {
     Shell("DBUS_SESSION_BUS_ADDRESS=disabled: pulseaudio -n --daemonize --log-level=error"
           " --exit-idle-time=30 -L 'module-null-sink sink_name=null'"
           " -L 'module-native-protocol-unix auth-anonymous=1 socket='$PWD/server");
-    monitor = popen("exec parec -d null.monitor --raw --latency-msec=20 2>&-", "r");
+    monitor = popen("exec parec -d null.monitor --raw --latency-msec=20 2>/dev/null", "r");
 }
 
 // Whether a tenth of the next three seconds is loud, or silent.
@@ -59,18 +59,18 @@ TEST(Sounds, AreHeardUntilClosedWhateverTheirServerDoes) {
     SetWaveDeviceType("WaveAudio");
     Play("tone_8_bits.wav"); // to nobody
     StartServer();
-    PlayAndClose("tone_8_bits.wav");
     PlayAndClose("tone_24_bits.wav");
 
     Shell("pactl suspend-sink null 1");
     Play("tone_8_bits.wav");
-    Shell("until pactl list short sink-inputs | grep -q .; do :; done");
+    Shell("until pactl list sink-inputs | grep -q .; do sleep .01; done");
     Do({WaveCommand::Close});
-    Shell("while pactl list short sink-inputs | grep -q .; do :; done; pactl suspend-sink null 0");
+    Shell(
+        "while pactl list sink-inputs | grep -q .; do sleep .01; done; pactl suspend-sink null 0");
 
-    Shell("kill -STOP $(cat pulse/pid)");
+    Shell("kill -STOP $(cat pulse/pid); grep -c $PWD/server /proc/net/unix >connections");
     Play("tone_8_bits.wav");
-    Shell("until [ $(grep -c $PWD/server /proc/net/unix) = 3 ]; do :; done");
+    Shell("while grep -c $PWD/server /proc/net/unix | cmp -s connections; do sleep .01; done");
     Do({WaveCommand::Close});
     Shell("kill -CONT $(cat pulse/pid)");
     EXPECT_FALSE(Becomes(true)) << "played late";
