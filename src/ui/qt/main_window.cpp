@@ -31,6 +31,7 @@ constexpr int IconSize = 24;
 // Of the picture, in spacings: room for two boxes, and for ten with a calm margin.
 constexpr int SmallestPicture = 3;
 constexpr int InitialPicture = 15;
+constexpr int ResizeRestMilliseconds = 400; // without a new size: the user has let the border go
 
 int ToPixels(int twips, int twipsPerPixel) {
     return static_cast<int>(std::lround(static_cast<double>(twips) / twipsPerPixel));
@@ -68,6 +69,9 @@ MainWindow::MainWindow()
                    .Place = [this](WindowPlace place) { Place(place); }});
     connect(picPlayingField, &PlayingField::PictureOutdated, this, &MainWindow::LayOut,
             Qt::QueuedConnection);
+    ResizeRest.setSingleShot(true);
+    ResizeRest.setInterval(ResizeRestMilliseconds);
+    connect(&ResizeRest, &QTimer::timeout, this, [] { RunGuarded(ShowResizeWarning); });
 }
 
 void MainWindow::Open() {
@@ -228,11 +232,7 @@ void MainWindow::LayOut() {
     fraStatistics->move(ToPixels(layout.Frame).topLeft() - QPoint(0, toolbarHeight));
     picPlayingField->setGeometry(ToPixels(layout.Picture).translated(0, -toolbarHeight));
     TheFieldPicture.Resize(picPlayingField->size(), devicePixelRatioF());
-    RunGuarded([this] {
-        if (Form_Resize())
-            QMetaObject::invokeMethod(
-                this, [] { RunGuarded(ShowResizeWarning); }, Qt::QueuedConnection);
-    });
+    RunGuarded([this] { Form_Resize() ? ResizeRest.start() : ResizeRest.stop(); });
 }
 
 void MainWindow::ShowControls() {

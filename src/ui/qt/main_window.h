@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QMainWindow>
+#include <QTimer>
 #include <array>
 
 #include "platform/controls.h"
@@ -61,4 +62,5 @@ private:
     FormDialog* frmDefinePlayers;
     HelpViewer* frmHelp;
     MainWindowControls Shown;
+    QTimer ResizeRest; // runs while the field does not fit, until the user is warned
 };
