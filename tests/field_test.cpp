@@ -30,6 +30,7 @@ bool IsDrawn(const Drawing& wanted) {
 TEST_F(Field, OfThreeByTwoBoxesIsNumberedAsCountedByHand) {
     SetUpGame(3, 2, Humanoid, Humanoid);
     EXPECT_EQ(TheNullDesktop.Drawings.size(), 12U) << "a point for each, and nothing else";
+    Game.GridColumns = 5; // of the next game
     SaveGame("field.qbs");
     EXPECT_EQ(BytesOf("field.qbs"), BytesOf(QUIBLINK_TESTS "/samples/three_by_two.qbs"));
 }
@@ -91,6 +92,7 @@ TEST_F(Field, ThatNoLongerFitsIsLeftWhereItWasAndWarnedOfDuringAGame) {
     EXPECT_TRUE(RedrawField()) << "no field yet";
     EXPECT_TRUE(TheNullDesktop.Drawings.empty());
     SetUpGame(3, 2, Humanoid, Humanoid);
+    TheNullDesktop.PictureWidth = 900;
     TheNullDesktop.PictureHeight = 750;
     EXPECT_FALSE(Form_Resize()) << "fits to the twip";
     TheNullDesktop.PictureWidth = 898;
@@ -100,6 +102,13 @@ TEST_F(Field, ThatNoLongerFitsIsLeftWhereItWasAndWarnedOfDuringAGame) {
     EXPECT_TRUE(Form_Resize());
     EXPECT_TRUE(Game == before);
     EXPECT_EQ(TheNullDesktop.Drawings, drawings);
+    TheNullDesktop.PictureWidth = 900;
+    ShowResizeWarning();
+    EXPECT_TRUE(TheNullDesktop.Boxes.empty()) << "fits again before the warning opens";
+    TheNullDesktop.PictureWidth = 898;
+    TheNullDesktop.Answers = {MessageAnswer::Ok};
+    ShowResizeWarning();
+    EXPECT_EQ(TheNullDesktop.Boxes.size(), 1U);
     Game.ResizeWarningShown = true;
     EXPECT_FALSE(Form_Resize()) << "one warning at a time";
     Game.ResizeWarningShown = Game.GameInPlay = false;

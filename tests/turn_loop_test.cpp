@@ -33,10 +33,9 @@ std::string Captions() {
 
 // The sum of 1, 2, 4 and 8 for the markers 1 to 4.
 int VisibleMarkers() {
-    return (frmQuibsMain.shpPlayer1Active.Visible ? 1 : 0) +
-           (frmQuibsMain.shpPlayer2Active.Visible ? 2 : 0) +
-           (frmQuibsMain.shpPlayer3Active.Visible ? 4 : 0) +
-           (frmQuibsMain.shpPlayer4Active.Visible ? 8 : 0);
+    const MainWindowControls& form = frmQuibsMain;
+    return form.shpPlayer1Active.Visible + 2 * form.shpPlayer2Active.Visible +
+           4 * form.shpPlayer3Active.Visible + 8 * form.shpPlayer4Active.Visible;
 }
 
 void ExpectNoGameIsRunning() {
@@ -57,8 +56,9 @@ void ExpectGivenUp() {
     EXPECT_EQ(Game.PlayerScore, PerPlayer<Integer>{});
     EXPECT_EQ(Game.GhostLine + Game.ComputerGhostLine + Game.ChosenLine + Game.LastLine, 0);
     EXPECT_EQ(VisibleMarkers(), 0);
-    EXPECT_EQ(frmQuibsMain.txtBoxesStatus.Text + frmQuibsMain.txtLinesStatus.Text + Captions(),
-              "|");
+    EXPECT_EQ(Captions(), "|");
+    EXPECT_EQ(PanelTexts().substr(PanelTexts().size() - 2), "||");
+    EXPECT_EQ(PanelTexts().find("of an old game"), std::string::npos);
     EXPECT_TRUE(TheNullDesktop.Drawings.empty());
 }
 
@@ -68,7 +68,10 @@ void WatchGame(std::uint32_t seed) {
     TheNullDesktop.WhenYielding = [] {
         ASSERT_TRUE(BoardIsSound());
         ASSERT_EQ(IsEnabled(Command::Hint), Game.GameInPlay && !Game.MouseDownSeen);
-        ASSERT_TRUE(!Game.GameInPlay || VisibleMarkers() == Game.CurrentPlayer);
+        if (!Game.GameInPlay)
+            return;
+        ASSERT_EQ(VisibleMarkers(), Game.CurrentPlayer);
+        ASSERT_EQ(Captions(), Game.CurrentPlayer == 1 ? "Colossus's Turn|" : "|Guardian's Turn");
     };
 }
 
@@ -79,6 +82,7 @@ void Prepare(int columns, Integer firstKind, Integer secondKind, const std::vect
     Game.GameInPlay = false;
     Game.GamePaused = true;
     EnterPhase(Phase::Prepared);
+    frmQuibsMain.txtPlayer1Status.Text = frmQuibsMain.txtPlayer2Status.Text = "of an old game";
 }
 
 struct Wait {
@@ -114,7 +118,8 @@ void ExpectClosed() {
 }
 
 void Fail() {
-    throw std::out_of_range("a bad index");
+    Integer full = 32767;
+    Increase(full, 1);
 }
 
 // In the wait for a person this line would be refused if the game went on.
@@ -187,6 +192,17 @@ TEST_F(TurnLoop, ObeysInTheMiddleOfEveryWaitAndLosesNoTime) {
         }
 }
 
+TEST_F(TurnLoop, AsksThePersonWhomADialogPutInThePlaceOfAChoosingComputer) {
+    Prepare(2, ComputerIntelligent, ComputerAverage, {1, 2, 3, 4});
+    AfterSeconds(0.5, [] { Game.PlayerKind.at(1) = Humanoid; });
+    TheNullDesktop.WhenIdle = [] {
+        EXPECT_EQ(Game.LinesDrawn, 4);
+        Form_Unload();
+    };
+    RunCommand(Command::Start);
+    EXPECT_TRUE(Game.ProgramEnding);
+}
+
 TEST_F(TurnLoop, TellsTheEndOfAGameAndBlinksForThreeSecondsUndisturbed) {
     const struct {
         Integer Kind;
@@ -239,7 +255,8 @@ TEST_F(TurnLoop, StartsTwentyGamesDuringBlinksOnOneStackAndSurvivesAFailureThere
     TheNullDesktop.Answers = {Ok};
     RunGuarded([] { RunCommand(Command::Start); });
     EXPECT_EQ(frames.size(), 1U);
-    EXPECT_EQ(TheNullDesktop.Boxes.back().Text, "The game had to be ended: a bad index.");
+    EXPECT_EQ(TheNullDesktop.Boxes.back().Text,
+              "The game had to be ended: a number of the game does not fit into 16 bits.");
     ExpectGivenUp();
     TheNullDesktop.WhenYielding = [] {
         EXPECT_FALSE(Game.ProgramEnding) << "a blink went on";
@@ -261,9 +278,11 @@ TEST_F(TurnLoop, TakesExchangeOnlyForAPreparedGame) {
     RunCommand(Command::Exchange);
     EXPECT_EQ(Game.CurrentPlayer, other);
     EXPECT_EQ(Captions(), Game.PlayerName.at(other) + "'s Turn|GAME PAUSED");
-    TheNullDesktop.Answers = {No, Yes};
-    RunCommand(Command::Exit);
-    RunCommand(Command::Quit);
+    TheNullDesktop.Answers = {No, No, Yes};
+    for (const Command command : {Command::Exit, Command::Quit, Command::Quit}) {
+        EXPECT_EQ(EnabledCommands(), Prepared);
+        RunCommand(command);
+    }
     EXPECT_EQ(TheNullDesktop.Boxes.at(1).Text, "Are you sure you want to quit the current game?");
     mnuExchange_Click();
     ExpectGivenUp();

@@ -157,7 +157,7 @@ bool Form_Resize() {
 }
 
 void ShowResizeWarning() {
-    if (Game.ResizeWarningShown || Game.ProgramEnding)
+    if (Game.ProgramEnding || !Form_Resize())
         return;
     Game.ResizeWarningShown = true;
     ShowMessageBox("You have resized the Quiblink window while a game\n"
@@ -208,7 +208,7 @@ void mnuExchange_Click() {
     if (Game.GameInPlay || !Game.GamePaused || !IsPlayer(Game.CurrentPlayer))
         return;
     Game.CurrentPlayer = ToInteger(OtherPlayer(Game.CurrentPlayer));
-    frmQuibsMain.lblPlayer1Active.Caption = TurnText(Game.CurrentPlayer);
+    ShowGamePaused();
     TellNews();
 }
 

@@ -173,7 +173,7 @@ void AbandonGame() {
     Game.QuitRequested = false;
     Game.GameOverShown = false;
     Game.CommandAfterGameOver.reset();
-    ShowCaptions("", "");
+    ShowCaptions({}, {}, 0);
     ForgetTurn();
     Game.PlayerScore = {};
     ShowPlayerStatus(1);

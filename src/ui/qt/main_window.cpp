@@ -26,10 +26,12 @@
 
 namespace {
 
-constexpr QSize InitialSize(640, 580);
 constexpr QSize RoomForFrame(80, 80); // a centred window keeps its title and borders on the screen
 constexpr int IconSize = 24;
-constexpr int SmallestPictureSpacings = 3;
+// Of the picture, in spacings: room for two boxes, and for ten with a calm margin.
+constexpr int SmallestPicture = 3;
+constexpr int InitialPicture = 15;
+constexpr int ResizeRestMilliseconds = 400; // without a new size: the user has let the border go
 
 int ToPixels(int twips, int twipsPerPixel) {
     return static_cast<int>(std::lround(static_cast<double>(twips) / twipsPerPixel));
@@ -54,6 +56,7 @@ MainWindow::MainWindow()
     setWindowIcon(ColoredIcon(":/icons/quiblink.svg"));
     setCentralWidget(ClientArea);
     ClientArea->installEventFilter(this);
+    fraStatistics->installEventFilter(this);
     picPlayingField->setFocus();
     BuildMenus();
     BuildToolBar();
@@ -66,6 +69,9 @@ MainWindow::MainWindow()
                    .Place = [this](WindowPlace place) { Place(place); }});
     connect(picPlayingField, &PlayingField::PictureOutdated, this, &MainWindow::LayOut,
             Qt::QueuedConnection);
+    ResizeRest.setSingleShot(true);
+    ResizeRest.setInterval(ResizeRestMilliseconds);
+    connect(&ResizeRest, &QTimer::timeout, this, [] { RunGuarded(ShowResizeWarning); });
 }
 
 void MainWindow::Open() {
@@ -86,8 +92,10 @@ void MainWindow::closeEvent(QCloseEvent* event) {
 }
 
 bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
-    if (watched == ClientArea && event->type() == QEvent::Resize)
+    if (event->type() == QEvent::Resize) {
+        setMinimumSize(SizeAround(SmallestPicture)); // the frame follows the desktop's font
         LayOut();
+    }
     return QMainWindow::eventFilter(watched, event);
 }
 
@@ -172,11 +180,10 @@ void MainWindow::BuildToolBar() {
 }
 
 void MainWindow::Place(WindowPlace place) {
-    setMinimumSize(fraStatistics->width() + ToPixels(FrameMargin, Game.TwipsPerPixelX),
-                   SmallestHeight());
+    setMinimumSize(SizeAround(SmallestPicture));
     const QScreen* screen = QApplication::primaryScreen();
     const QRect area = screen->geometry();
-    resize(InitialSize.boundedTo(screen->availableSize() - RoomForFrame));
+    resize(SizeAround(InitialPicture).boundedTo(screen->availableSize() - RoomForFrame));
     if (place == WindowPlace::Centred) {
         move(area.left() + (area.width() - width()) / 2,
              area.top() + (area.height() - height()) / 2);
@@ -204,10 +211,11 @@ void MainWindow::KeepOnScreen(const QRect& workArea) {
     resize(frame.size() - borders);
 }
 
-int MainWindow::SmallestHeight() const {
-    const int picture = SmallestPictureSpacings * PixelsBetweenPoints;
-    return menuBar()->sizeHint().height() + tbrToolBar->sizeHint().height() + picture +
-           fraStatistics->height() + ToPixels(BottomMargin, Game.TwipsPerPixelY) + 1;
+QSize MainWindow::SizeAround(int pictureSpacings) const {
+    const int picture = pictureSpacings * PixelsBetweenPoints;
+    return {fraStatistics->width() + ToPixels(FrameMargin, Game.TwipsPerPixelX),
+            menuBar()->sizeHint().height() + tbrToolBar->sizeHint().height() + picture +
+                fraStatistics->height() + ToPixels(BottomMargin, Game.TwipsPerPixelY) + 1};
 }
 
 void MainWindow::LayOut() {
@@ -224,11 +232,7 @@ void MainWindow::LayOut() {
     fraStatistics->move(ToPixels(layout.Frame).topLeft() - QPoint(0, toolbarHeight));
     picPlayingField->setGeometry(ToPixels(layout.Picture).translated(0, -toolbarHeight));
     TheFieldPicture.Resize(picPlayingField->size(), devicePixelRatioF());
-    RunGuarded([this] {
-        if (Form_Resize())
-            QMetaObject::invokeMethod(
-                this, [] { RunGuarded(ShowResizeWarning); }, Qt::QueuedConnection);
-    });
+    RunGuarded([this] { Form_Resize() ? ResizeRest.start() : ResizeRest.stop(); });
 }
 
 void MainWindow::ShowControls() {

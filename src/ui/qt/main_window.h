@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QMainWindow>
+#include <QTimer>
 #include <array>
 
 #include "platform/controls.h"
@@ -40,7 +41,9 @@ private:
 
     void Place(WindowPlace place);
     void KeepOnScreen(const QRect& workArea);
-    int SmallestHeight() const;
+    // Of a window as wide as the status frame asks for, around a picture of so many spacings'
+    // height.
+    QSize SizeAround(int pictureSpacings) const;
     void LayOut();
     void ShowControls();
 
@@ -59,4 +62,5 @@ private:
     FormDialog* frmDefinePlayers;
     HelpViewer* frmHelp;
     MainWindowControls Shown;
+    QTimer ResizeRest; // runs while the field does not fit, until the user is warned
 };

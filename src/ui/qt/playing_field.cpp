@@ -41,13 +41,13 @@ std::optional<FieldKey> FieldKeyOf(const QKeyEvent& event) {
 } // namespace
 
 PlayingField::PlayingField(QWidget* parent) : QWidget(parent) {
+    MakeFieldAccessible(); // before a name is set, which a screen reader asks for at once
     setObjectName("picPlayingField");
     setAccessibleName("Playing field");
     setAccessibleDescription(
         "Point at the gap between two points and press to draw a line; or the arrow keys move the "
         "ghost line, Space turns it, Return draws it.");
     setFocusPolicy(Qt::StrongFocus);
-    MakeFieldAccessible();
     setAttribute(Qt::WA_OpaquePaintEvent);
     setMouseTracking(true);
     TheFieldPicture.WhenChanged = [this](const QRect& changed) { update(changed); };
@@ -96,11 +96,13 @@ void PlayingField::PaintFocusFrame(QPainter& painter) const {
 }
 
 void PlayingField::paintEvent(QPaintEvent* /*event*/) {
-    if (TheFieldPicture.PixelRatio() != devicePixelRatioF())
+    if (TheFieldPicture.ScreenPixelRatio() != devicePixelRatioF())
         emit PictureOutdated();
     QPainter painter(this);
     painter.fillRect(rect(), ToQColor(frmQuibsMain.picPlayingField.BackColor));
     const qreal ratio = TheFieldPicture.PixelRatio();
+    // A picture that was drawn for a screen of another scale loses no line.
+    painter.setRenderHint(QPainter::SmoothPixmapTransform, ratio != devicePixelRatioF());
     for (const QImage* layer : TheFieldPicture.Layers())
         painter.drawImage(QRectF(0, 0, layer->width() / ratio, layer->height() / ratio), *layer);
     if (FocusIsMarked && hasFocus())

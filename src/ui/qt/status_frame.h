@@ -3,10 +3,11 @@
 
 #include <QFrame>
 
-class QLabel;
-class QLineEdit;
+class StatusLabel;
 class Swatch;
 
+// As wide as its widest texts in the desktop's font, and never narrower than a good deal. It has a
+// fixed size, which changes with the font.
 class StatusFrame : public QFrame {
     Q_OBJECT
 
@@ -15,10 +16,12 @@ public:
 
     void ShowControls();
 
+protected:
+    bool event(QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+
 private:
-    QLineEdit* AddTextBox(const char* objectName, const char* accessibleName, int row, int column);
-    QLabel* AddCaption(const char* objectName, class QHBoxLayout* row, Swatch* before,
-                       Swatch* after);
+    void TakeSize();
 
     Swatch* shpPlayer1Status;
     Swatch* shpPlayer2Status;
@@ -26,10 +29,10 @@ private:
     Swatch* shpPlayer2Active;
     Swatch* shpPlayer3Active;
     Swatch* shpPlayer4Active;
-    QLineEdit* txtPlayer1Status;
-    QLineEdit* txtPlayer2Status;
-    QLineEdit* txtBoxesStatus;
-    QLineEdit* txtLinesStatus;
-    QLabel* lblPlayer1Active;
-    QLabel* lblPlayer2Active;
+    StatusLabel* txtPlayer1Status;
+    StatusLabel* txtPlayer2Status;
+    StatusLabel* txtBoxesStatus;
+    StatusLabel* txtLinesStatus;
+    StatusLabel* lblPlayer1Active;
+    StatusLabel* lblPlayer2Active;
 };
