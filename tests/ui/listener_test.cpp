@@ -3,13 +3,15 @@
 
 #include <gtest/gtest.h>
 
+#include <QRegularExpression>
 #include <deque>
+#include <set>
 
 #include "ui/robot.h"
 
 namespace {
 
-// The bus on which programs talk to screen readers, with one that listens.
+// The bus on which programs talk to screen readers, and one that listens to it.
 class Listener {
 protected:
     Listener() {
@@ -19,7 +21,7 @@ protected:
         setenv("DBUS_SESSION_BUS_ADDRESS", address.c_str(), 1);
         setenv("QT_LINUX_ACCESSIBILITY_ALWAYS_ON", "1", 1);
         atspi_init();
-        atspi_event_listener_register_from_callback(Hear, this, nullptr,
+        atspi_event_listener_register_from_callback(Hear, &Sayings, nullptr,
                                                     "object:state-changed:focused", nullptr);
     }
     ~Listener() {
@@ -27,87 +29,88 @@ protected:
         Bus.waitForFinished();
     }
 
-    // What is said next, or next and with `part` in it.
-    std::string Next(const std::string& part = "") {
-        std::string saying;
-        Robot::Await("a saying with " + part, [&] {
-            while (g_main_context_iteration(nullptr, FALSE) != FALSE) {
-            }
-            while (!Sayings.empty()) {
-                saying = Sayings.front();
-                Sayings.pop_front();
-                if (saying.find(part) != std::string::npos)
-                    return true;
-            }
-            return false;
-        });
+    // The next saying with `part` in it.
+    QString Next(const QString& part) {
+        QString saying;
+        do {
+            Robot::Await(part.toStdString(), [this] {
+                g_main_context_iteration(nullptr, FALSE);
+                return !Sayings.empty();
+            });
+            saying = Sayings.front();
+            Sayings.pop_front();
+        } while (!saying.contains(part));
         return saying;
     }
 
-    // Role and name of an object that shows and of all that shows in it.
-    static std::string Showing(AtspiAccessible* object) {
+    // The names of all that shows in an object, with a star at what can be edited.
+    static QString Showing(AtspiAccessible* object) {
         AtspiStateSet* states = atspi_accessible_get_state_set(object);
-        std::string text;
-        if (atspi_state_set_contains(states, ATSPI_STATE_SHOWING) != FALSE ||
-            atspi_accessible_get_role(object, nullptr) == ATSPI_ROLE_APPLICATION)
-            text = Take(atspi_accessible_get_role_name(object, nullptr)) + ' ' + NameOf(object) +
-                   (atspi_state_set_contains(states, ATSPI_STATE_EDITABLE) != FALSE ? " editable"
-                                                                                    : "") +
-                   '\n';
+        QString names;
+        if (atspi_state_set_contains(states, ATSPI_STATE_SHOWING) != FALSE)
+            names = NameOf(object) + '\n';
+        if (!names.isEmpty() && atspi_state_set_contains(states, ATSPI_STATE_EDITABLE) != FALSE)
+            names += '*';
+        g_object_unref(states);
         for (int i = 0; i < atspi_accessible_get_child_count(object, nullptr); ++i)
-            text += Showing(atspi_accessible_get_child_at_index(object, i, nullptr));
-        return text;
+            names += Showing(atspi_accessible_get_child_at_index(object, i, nullptr));
+        return names;
     }
 
 private:
-    static std::string Take(gchar* text) {
-        const std::string taken = text == nullptr ? "" : text;
-        g_free(text);
-        return taken;
-    }
-
-    static std::string NameOf(AtspiAccessible* object) {
+    static QString NameOf(AtspiAccessible* object) {
         atspi_accessible_clear_cache(object);
-        return Take(atspi_accessible_get_name(object, nullptr));
+        g_autofree gchar* name = atspi_accessible_get_name(object, nullptr);
+        return QString::fromUtf8(name);
     }
-
-    static void Hear(AtspiEvent* event, void* listener) {
+    static void Hear(AtspiEvent* event, void* sayings) {
         if (event->detail1 == 1)
-            static_cast<Listener*>(listener)->Sayings.push_back(NameOf(event->source)), std::cout << "(" << NameOf(event->source) << ")\n";
+            static_cast<std::deque<QString>*>(sayings)->push_back(NameOf(event->source));
         g_boxed_free(ATSPI_TYPE_EVENT, event);
     }
 
     TestDirectory Directory;
     QProcess Bus;
-    std::deque<std::string> Sayings;
+    std::deque<QString> Sayings;
 };
 
 class ByEar : public ::testing::Test, protected Listener, protected Robot {};
 
+QString LineIn(const QString& saying) {
+    return QRegularExpression("(across|down), row \\d, column \\d").match(saying).captured();
+}
+
 TEST_F(ByEar, APersonPlaysAGameAgainstAComputer) {
     Next("Playing field");
-    std::cout << Showing(atspi_accessible_get_child_at_index(atspi_get_desktop(0), 0, nullptr));
     Press("ctrl+r");
-    Next("10");
+    Next("10"); // boxes across
     Press("3 Tab 2 Return");
     Next("Playing field");
     Press("ctrl+p");
-    Next();
-    Press("Tab Tab Up Up Tab Tab Tab Down Down Return");
+    Next("Name of Player 1");
+    Press("Tab Tab Up Up Tab Tab Tab Down Down Return"); // a person and a Computer Cheat
     Next("Playing field");
     Press("ctrl+t");
-    std::string news = Next("Colossus's Turn");
-    Press("Left");
-    for (std::string line = Next(); line.find("across, row 1,") == std::string::npos; line = Next())
-        Press(line.starts_with("across") ? "Up" : "space");
-    Press("Return");
-    while (news = Next(), news.find("Turn") != std::string::npos) {
-        std::cout << news << "\n";
+
+    QString news = Next("Colossus's Turn"); // who is the person
+    const QString shown =
+        Showing(atspi_accessible_get_child_at_index(atspi_get_desktop(0), 0, nullptr));
+    EXPECT_TRUE(shown.contains("Color of player 2: bright white\n")) << shown.toStdString();
+    EXPECT_EQ(shown.count("Marker") + shown.count('*'), 1);
+
+    std::set<QString> drawn{""};
+    for (; news.contains("Turn"); news = Next("Colossus")) {
+        drawn.insert(LineIn(news));
         Press("Left");
-        std::cout << Next("row") << "\n";
+        QString line = LineIn(Next("row"));
+        while (drawn.size() < 3 && !line.contains("across, row 1")) {
+            Press(line.startsWith("across") ? "Up" : "space");
+            line = LineIn(Next("row"));
+        }
+        EXPECT_TRUE(drawn.insert(line).second) << line.toStdString();
         Press("Return");
     }
-    std::cout << news << "\n";
+    EXPECT_TRUE(news.contains(" The Winner Is: ") || news.endsWith(" It's A Draw."));
     Press("ctrl+x");
     EXPECT_EQ(WaitForExit(), 0);
     EXPECT_EQ(StandardError(), "");
