@@ -102,6 +102,13 @@ TEST_F(Field, ThatNoLongerFitsIsLeftWhereItWasAndWarnedOfDuringAGame) {
     EXPECT_TRUE(Form_Resize());
     EXPECT_TRUE(Game == before);
     EXPECT_EQ(TheNullDesktop.Drawings, drawings);
+    TheNullDesktop.PictureWidth = 900;
+    ShowResizeWarning();
+    EXPECT_TRUE(TheNullDesktop.Boxes.empty()) << "fits again before the warning opens";
+    TheNullDesktop.PictureWidth = 898;
+    TheNullDesktop.Answers = {MessageAnswer::Ok};
+    ShowResizeWarning();
+    EXPECT_EQ(TheNullDesktop.Boxes.size(), 1U);
     Game.ResizeWarningShown = true;
     EXPECT_FALSE(Form_Resize()) << "one warning at a time";
     Game.ResizeWarningShown = Game.GameInPlay = false;

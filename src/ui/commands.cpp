@@ -157,7 +157,7 @@ bool Form_Resize() {
 }
 
 void ShowResizeWarning() {
-    if (Game.ResizeWarningShown || Game.ProgramEnding)
+    if (Game.ProgramEnding || !Form_Resize())
         return;
     Game.ResizeWarningShown = true;
     ShowMessageBox("You have resized the Quiblink window while a game\n"

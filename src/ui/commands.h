@@ -20,7 +20,8 @@ void RunCommand(Command command);
 void Form_Load();
 
 // Redraws the field for the picture's new size. True when the user is to be warned, by
-// `ShowResizeWarning` from the event queue, that the game no longer fits.
+// `ShowResizeWarning` once the window rests, that the game no longer fits. By then it may fit
+// again.
 bool Form_Resize();
 void ShowResizeWarning();
 

@@ -1,6 +1,5 @@
 #include "platform/qt/field_picture.h"
 
-#include <QPainter>
 #include <algorithm>
 #include <cmath>
 
@@ -18,27 +17,32 @@ QRgb Opaque(Color color) {
     return ToQColor(color).rgb();
 }
 
+QImage BlankImage(QSize pixels) {
+    QImage image(pixels, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    return image;
+}
+
+QSize ImageSize(QSize logicalSize, qreal pixelRatio) {
+    return {static_cast<int>(std::ceil(logicalSize.width() * pixelRatio)),
+            static_cast<int>(std::ceil(logicalSize.height() * pixelRatio))};
+}
+
 } // namespace
 
 void FieldPicture::Resize(QSize logicalSize, qreal screenPixelRatio) {
-    if (logicalSize == Size && screenPixelRatio == Ratio)
-        return;
-    const QSize screenSize(static_cast<int>(std::ceil(logicalSize.width() * screenPixelRatio)),
-                           static_cast<int>(std::ceil(logicalSize.height() * screenPixelRatio)));
-    for (QImage* layer : {&Lines, &Points}) {
-        QImage resized(screenSize, QImage::Format_ARGB32_Premultiplied);
-        resized.fill(Qt::transparent);
-        if (!layer->isNull() && screenPixelRatio == Ratio)
-            QPainter(&resized).drawImage(0, 0, *layer);
-        *layer = resized;
-    }
     Size = logicalSize;
-    Ratio = screenPixelRatio;
+    ScreenRatio = screenPixelRatio;
+    const QSize needed = ImageSize(Size, Ratio).expandedTo(Lines.size());
+    if (needed == Lines.size())
+        return;
+    for (QImage* layer : {&Lines, &Points})
+        *layer = layer->isNull() ? BlankImage(needed) : layer->copy(QRect(QPoint(), needed));
 }
 
 void FieldPicture::Clear() {
-    Lines.fill(Qt::transparent);
-    Points.fill(Qt::transparent);
+    Ratio = ScreenRatio;
+    Lines = Points = BlankImage(ImageSize(Size, Ratio));
     WhenChanged(QRect(QPoint(), Size));
 }
 

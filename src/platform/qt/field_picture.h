@@ -13,13 +13,17 @@ public:
     void SetScale(QSize twipsPerPixel) { TwipsPerPixel = twipsPerPixel; }
 
     // Takes the size in logical pixels and the screen pixels to one of them. What was drawn stays
-    // where it was, as far as it fits.
+    // where and as it was until the picture is cleared, also what lies outside meanwhile.
     void Resize(QSize logicalSize, qreal screenPixelRatio);
 
-    // From the lowest to the highest, all of one size.
-    std::array<const QImage*, 2> Layers() const { return {&Lines, &Points}; }
     // Inner size in twips, 0 to 32767.
     QSize SizeInTwips() const;
+    // The screen pixels that the window asked for.
+    qreal ScreenPixelRatio() const { return ScreenRatio; }
+
+    // From the lowest to the highest, all of one size, at least the picture's.
+    std::array<const QImage*, 2> Layers() const { return {&Lines, &Points}; }
+    // The pixels of the layers to one logical pixel.
     qreal PixelRatio() const { return Ratio; }
 
     void Clear();
@@ -38,9 +42,10 @@ private:
     QRect ToScreen(int left, int top, int right, int bottom) const;
     void Fill(QImage& layer, const QRect& screenPixels, QRgb color);
 
-    QImage Lines, Points;
     QSize Size;
-    qreal Ratio = 1;
+    qreal ScreenRatio = 1;
+    QImage Lines, Points;
+    qreal Ratio = 1; // of the two
     QSize TwipsPerPixel{1, 1};
 };
 

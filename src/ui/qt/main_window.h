@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QMainWindow>
+#include <QTimer>
 #include <array>
 
 #include "platform/controls.h"
@@ -39,7 +40,9 @@ private:
     QAction* ActionOf(Command command) const;
 
     void Place(WindowPlace place);
-    void KeepOnScreen(const QRect& workArea);
+    // Now that the desktop has put a title bar and borders around the window.
+    void TakeFrame();
+    void FollowScreens();
     // Of a window as wide as the status frame asks for, around a picture of so many spacings'
     // height.
     QSize SizeAround(int pictureSpacings) const;
@@ -61,4 +64,5 @@ private:
     FormDialog* frmDefinePlayers;
     HelpViewer* frmHelp;
     MainWindowControls Shown;
+    QTimer ResizeRest; // runs while the field does not fit, until the user is warned
 };

@@ -96,11 +96,13 @@ void PlayingField::PaintFocusFrame(QPainter& painter) const {
 }
 
 void PlayingField::paintEvent(QPaintEvent* /*event*/) {
-    if (TheFieldPicture.PixelRatio() != devicePixelRatioF())
+    if (TheFieldPicture.ScreenPixelRatio() != devicePixelRatioF())
         emit PictureOutdated();
     QPainter painter(this);
     painter.fillRect(rect(), ToQColor(frmQuibsMain.picPlayingField.BackColor));
     const qreal ratio = TheFieldPicture.PixelRatio();
+    // A picture that was drawn for a screen of another scale loses no line.
+    painter.setRenderHint(QPainter::SmoothPixmapTransform, ratio != devicePixelRatioF());
     for (const QImage* layer : TheFieldPicture.Layers())
         painter.drawImage(QRectF(0, 0, layer->width() / ratio, layer->height() / ratio), *layer);
     if (FocusIsMarked && hasFocus())
