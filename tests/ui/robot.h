@@ -37,8 +37,6 @@ public:
         // The focused window may be gone when it is asked for its name.
         XSetErrorHandler([](Display*, XErrorEvent*) { return 0; });
         Program.setStandardErrorFile("stderr", QIODevice::Append);
-        for (const auto& file : std::filesystem::directory_iterator(QUIBLINK_DATA))
-            std::filesystem::create_symlink(file, file.path().filename());
         StartProgram();
     }
     ~Robot() {
@@ -62,6 +60,14 @@ public:
 
     // Of all runs of the program.
     static std::string StandardError() { return BytesOf("stderr"); }
+
+    // Starts a program that writes a line when it is ready, and tells that line.
+    static std::string StartAndHear(QProcess& process, const char* program,
+                                    const QStringList& arguments) {
+        process.start(program, arguments);
+        process.waitForReadyRead();
+        return process.readLine().trimmed().toStdString();
+    }
 
     // Tells whether it came true before the time was up.
     static bool WaitFor(const std::function<bool()>& condition, int milliseconds = 20'000) {
@@ -149,14 +155,6 @@ public:
     }
 
 private:
-    // Starts a program that writes a line when it is ready, and tells that line.
-    static std::string StartAndHear(QProcess& process, const char* program,
-                                    const QStringList& arguments) {
-        process.start(program, arguments);
-        process.waitForReadyRead();
-        return process.readLine().trimmed().toStdString();
-    }
-
     template <class Look>
     void ForEachPixel(QRect area, Look look) {
         XImage* image = XGetImage(Hand->xdpy, DefaultRootWindow(Hand->xdpy), area.x(), area.y(),

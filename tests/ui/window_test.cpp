@@ -35,7 +35,11 @@ ScreenField FieldAt(QPoint first, int columns, int rows) {
 
 class RealWindow : public ::testing::Test, protected Robot {
 protected:
-    void SetUp() override { WaitForFocus("Quiblink"); }
+    void SetUp() override {
+        for (const auto& file : std::filesystem::directory_iterator(QUIBLINK_DATA))
+            std::filesystem::create_symlink(file, file.path().filename());
+        WaitForFocus("Quiblink");
+    }
 
     void TearDown() override { EXPECT_EQ(StandardError(), ""); }
 
@@ -54,11 +58,6 @@ protected:
         Open(keys, title);
         Press(answers);
         WaitForFocus("Quiblink");
-    }
-
-    void Exit() {
-        Press("ctrl+x");
-        EXPECT_EQ(WaitForExit(), 0);
     }
 
     void QuitGame() {
@@ -120,6 +119,13 @@ protected:
         EXPECT_EQ(CountDrawn(), count);
     }
 
+    // Draws lines without the pointer, wherever the keys lead.
+    void PlayOnByKeys(int count) {
+        const auto areDrawn = [&] { return CountDrawn() >= count; };
+        ActUntil("the lines", areDrawn, [&] { Press("Right Return"); });
+        EXPECT_EQ(CountDrawn(), count);
+    }
+
     // The colour of the picture beside the field.
     unsigned long ShownBackground() {
         const QRect window = FocusedArea();
@@ -142,7 +148,8 @@ TEST_F(RealWindow, PlaysAWholeGameOfAPersonAgainstAComputerSetInTheDialogs) {
     Press("ctrl+t");
     Await("an empty field", [&] { return CountDrawn() <= 1; });
     QuitGame();
-    Exit();
+    Press("ctrl+x");
+    EXPECT_EQ(WaitForExit(), 0);
 }
 
 TEST_F(RealWindow, AnswersItsMenusByAccessKeyAndEndsWithinASecondBehindADialog) {
@@ -150,7 +157,10 @@ TEST_F(RealWindow, AnswersItsMenusByAccessKeyAndEndsWithinASecondBehindADialog) 
     StartGame("alt+g a", 4, 4); // Game, Auto
     Await("an automatic game", [&] { return CountDrawn() >= 16; });
     Use("ctrl+x", "Exit the Game", "Escape");
-    Use("alt+h b", "About Quiblink", "Return");
+    const QSize size = FocusedArea().size();
+    Resize(size + QSize(80, 60));
+    Await("the field in its new place",
+          [&] { return FocusedArea().size() != size && FindField(4, 4) && CountDrawn() >= 16; });
     Open("ctrl+h", "Quiblink Help");
     Await("the help", [&] { return AreaOf(Text).height() > 100; });
     Press("Return");
@@ -162,7 +172,7 @@ TEST_F(RealWindow, AnswersItsMenusByAccessKeyAndEndsWithinASecondBehindADialog) 
     EXPECT_EQ(WaitForExit(1000), 0);
 }
 
-TEST_F(RealWindow, DrawsADocument) {
+TEST_F(RealWindow, DrawsADocumentAndOpensAGameByPointer) {
     // A centred, an indented and a large block, the last in the second of two columns.
     std::filesystem::remove("qblnkhst.rtf");
     PutBytes("qblnkhst.rtf",
@@ -182,31 +192,37 @@ TEST_F(RealWindow, DrawsADocument) {
     EXPECT_TRUE(indented.top() > centred.bottom() && inCell.top() > indented.bottom());
     Click(window.bottomRight() - QPoint(50, 25)); // its Ok
     WaitForFocus("Quiblink");
-    Exit();
-}
 
-TEST_F(RealWindow, KeepsAGameAndTheSettingsInFiles) {
-    Use("ctrl+r", "Define Playing Grid", "3 Tab 2 Return");
-    // Both players become persons.
-    Use("ctrl+p", "Define Players", "Tab Tab Up Up Tab Tab Tab Up Return");
-    StartGame("ctrl+t", 3, 2);
-    PlayOn(5);
-
-    const QSize size = FocusedArea().size();
-    Resize(size + QSize(80, 60));
-    Await("the field in its new place",
-          [&] { return FocusedArea().size() != size && FindField(3, 2) && CountDrawn() == 5; });
-    Press("ctrl+u"); // pauses
+    StartGame("ctrl+d", 10, 10);
     Use("ctrl+s", "Save a Quibs Game", "s t o r y Return");
-    EXPECT_TRUE(std::filesystem::exists("story.qbs"));
     QuitGame();
     Open("ctrl+o", "Open a Quibs Game");
     const QRect dialog = FocusedArea();
     DoubleClick({dialog.center().x() + 40, dialog.top() + 25}); // the first game in the list
     WaitForFocus("Quiblink");
+    Await("the saved lines", [&] { return CountDrawn() > 60; });
+}
+
+TEST_F(RealWindow, NeedsNoPointerForAWholeGameItsDialogsAndItsFiles) {
+    Use("ctrl+r", "Define Playing Grid", "3 Tab 2 Return");
+    // Both players become persons.
+    Use("ctrl+p", "Define Players", "Tab Tab Up Up Tab Tab Tab Up Return");
+    StartGame("F10 Right t", 3, 2);     // Game, Start
+    Press("Right space Return Return"); // shows the middle line, turns it, draws it
+    Await("the turned line", [&] { return IsDrawn(Field.Lines.at(10)); });
+    PlayOnByKeys(5);
+
+    Use("ctrl+h", "Quiblink Help", "Next Tab Return");
+    Use("ctrl+y", "Quiblink History", "Return");
+    Use("ctrl+b", "About Quiblink", "Return");
+    Press("ctrl+u"); // pauses
+    Use("ctrl+s", "Save a Quibs Game", "s t o r y Return");
+    EXPECT_TRUE(std::filesystem::exists("story.qbs"));
+    QuitGame();
+    Use("ctrl+o", "Open a Quibs Game", "Tab s t o r y period q b s Return"); // past the list
     Await("the saved lines", [&] { return CountDrawn() == 5; });
     Press("ctrl+t");
-    PlayOn(17);
+    PlayOnByKeys(17);
 
     Open("ctrl+r", "Define Playing Grid");
     Press("Tab Tab space"); // the colour of the background
@@ -216,12 +232,14 @@ TEST_F(RealWindow, KeepsAGameAndTheSettingsInFiles) {
     Press("Return");
     WaitForFocus("Quiblink");
     Await("the chosen colour", [&] { return ShownBackground() == 0x0000AA; });
-    Exit();
+    Press("ctrl+x");
+    EXPECT_EQ(WaitForExit(), 0);
 
     StartProgram();
     WaitForFocus("Quiblink");
     Await("the colour of the first run", [&] { return ShownBackground() == 0x0000AA; });
-    Exit();
+    Press("ctrl+x");
+    EXPECT_EQ(WaitForExit(), 0);
 }
 
 } // namespace

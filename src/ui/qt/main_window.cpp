@@ -7,6 +7,7 @@
 #include <QScreen>
 #include <QShortcut>
 #include <QToolBar>
+#include <QWindow>
 #include <cmath>
 
 #include "core/state/game_state.h"
@@ -22,6 +23,7 @@
 #include "ui/qt/playing_field.h"
 #include "ui/qt/status_frame.h"
 #include "ui/qt/svg_icon.h"
+#include "ui/qt/window_place.h"
 #include "ui/window_layout.h"
 
 namespace {
@@ -78,6 +80,7 @@ void MainWindow::Open() {
     RunGuarded(Form_Load);
     ShowControls();
     show();
+    windowHandle()->installEventFilter(this);
 }
 
 void MainWindow::EndProgram() {
@@ -95,6 +98,10 @@ bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::Resize) {
         setMinimumSize(SizeAround(SmallestPicture)); // the frame follows the desktop's font
         LayOut();
+    }
+    if (watched == windowHandle() && event->type() == QEvent::Expose) {
+        watched->removeEventFilter(this);
+        TakeFrame();
     }
     return QMainWindow::eventFilter(watched, event);
 }
@@ -181,34 +188,33 @@ void MainWindow::BuildToolBar() {
 
 void MainWindow::Place(WindowPlace place) {
     setMinimumSize(SizeAround(SmallestPicture));
-    const QScreen* screen = QApplication::primaryScreen();
-    const QRect area = screen->geometry();
-    resize(SizeAround(InitialPicture).boundedTo(screen->availableSize() - RoomForFrame));
+    resize(SizeAround(InitialPicture).boundedTo(screen()->availableSize() - RoomForFrame));
     if (place == WindowPlace::Centred) {
-        move(area.left() + (area.width() - width()) / 2,
-             area.top() + (area.height() - height()) / 2);
+        CentreOnScreen(*this);
     } else {
-        move(area.topLeft());
+        move(screen()->geometry().topLeft());
         setWindowState(Qt::WindowMaximized);
     }
-    connect(screen, &QScreen::availableGeometryChanged, this, &MainWindow::KeepOnScreen);
+    FollowScreens();
 }
 
-void MainWindow::KeepOnScreen(const QRect& workArea) {
-    if (isMaximized() || isFullScreen())
-        return; // the desktop keeps such a window on the screen, and moving it would end that state
-    QRect frame = frameGeometry();
-    const QSize borders = frame.size() - size();
-    if (workArea.height() < frame.height()) {
-        frame.setTop(workArea.top());
-        frame.setHeight(workArea.height());
-    }
-    if (workArea.width() < frame.width()) {
-        frame.setLeft(workArea.left());
-        frame.setWidth(workArea.width());
-    }
-    move(frame.topLeft());
-    resize(frame.size() - borders);
+void MainWindow::TakeFrame() {
+    if (!isMaximized())
+        CentreOnScreen(*this);
+    KeepOnScreen(*this);
+}
+
+void MainWindow::FollowScreens() {
+    const auto keep = [this] { KeepOnScreen(*this); };
+    const auto follow = [this, keep](QScreen* screen) {
+        connect(screen, &QScreen::availableGeometryChanged, this, keep);
+    };
+    for (QScreen* screen : QGuiApplication::screens())
+        follow(screen);
+    connect(qGuiApp, &QGuiApplication::screenAdded, this, follow);
+    // Later, when the window has found out which screen it is on now.
+    connect(qGuiApp, &QGuiApplication::screenAdded, this, keep, Qt::QueuedConnection);
+    connect(qGuiApp, &QGuiApplication::screenRemoved, this, keep, Qt::QueuedConnection);
 }
 
 QSize MainWindow::SizeAround(int pictureSpacings) const {

@@ -40,7 +40,9 @@ private:
     QAction* ActionOf(Command command) const;
 
     void Place(WindowPlace place);
-    void KeepOnScreen(const QRect& workArea);
+    // Now that the desktop has put a title bar and borders around the window.
+    void TakeFrame();
+    void FollowScreens();
     // Of a window as wide as the status frame asks for, around a picture of so many spacings'
     // height.
     QSize SizeAround(int pictureSpacings) const;

@@ -1,8 +1,9 @@
-#include "support/game_test.h"
+#include "support/board.h"
 
 #include "base/random.h"
 #include "core/play/game_setup.h"
 #include "display/safe_lines.h"
+#include "support/person.h"
 
 namespace {
 

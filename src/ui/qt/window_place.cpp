@@ -1,0 +1,23 @@
+#include "ui/qt/window_place.h"
+
+#include <QScreen>
+#include <QWidget>
+#include <algorithm>
+
+void CentreOnScreen(QWidget& window) {
+    QRect frame = window.frameGeometry();
+    frame.moveCenter(window.screen()->geometry().center());
+    window.move(frame.topLeft());
+}
+
+void KeepOnScreen(QWidget& window) {
+    if (window.isMaximized() || window.isFullScreen())
+        return; // the desktop keeps such a window on the screen, and moving it would end that state
+    const QRect area = window.screen()->availableGeometry();
+    const QRect frame = window.frameGeometry();
+    const QSize borders = frame.size() - window.size();
+    const QSize size = frame.size().boundedTo(area.size());
+    window.move(std::clamp(frame.left(), area.left(), area.right() + 1 - size.width()),
+                std::clamp(frame.top(), area.top(), area.bottom() + 1 - size.height()));
+    window.resize(size - borders);
+}
