@@ -9,8 +9,6 @@
 
 #include "platform/picture.h"
 
-namespace {
-
 TEST(FieldPictureTest, KeepsDotsWholeOnTopAndClearOfBoxesAtEveryScale) {
     SetPictureScale(15, 15);
     for (const int quarters : {4, 5, 6, 7, 8, 12}) {
@@ -33,5 +31,3 @@ TEST(FieldPictureTest, KeepsDotsWholeOnTopAndClearOfBoxesAtEveryScale) {
         EXPECT_FALSE(pixels.contains(0xFF00FF00)) << quarters;
     }
 }
-
-} // namespace
