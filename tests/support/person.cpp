@@ -144,7 +144,7 @@ bool UseGameBriefly(const std::string& story) {
             next = story.end();
         // Without a pause this begins a new game, which heals everything.
         Game.GamePaused = Game.GamePaused && !isNew;
-        Game.ProgramEnding = isWhole = false;
+        isWhole = Game.ProgramEnding;
         RunGuarded([] { RunCommand(Command::Start); });
     }
     TheNullDesktop.WhenYielding = nullptr;
