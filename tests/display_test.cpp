@@ -10,9 +10,10 @@ namespace {
 class DisplayTest : public GameTest {};
 
 TEST_F(DisplayTest, ShowsNumbersRightAlignedInFiveCharacters) {
-    SetUpGame(10, 10, Humanoid, ComputerCheat);
-    EXPECT_EQ(frmQuibsMain.txtBoxesStatus.Text, "Boxes:     0 of   100");
-    EXPECT_EQ(frmQuibsMain.txtLinesStatus.Text, "Lines:     0 of   220");
+    EXPECT_EQ(PanelTexts(), "Colossus:     0     Intelligent|Guardian:     0     Average||");
+    SetUpGame(10, 10, ComputerAverage, ComputerCheat);
+    EXPECT_EQ(PanelTexts(), "Colossus:     0     Average|Guardian:     0     Cheat|"
+                            "Boxes:     0 of   100|Lines:     0 of   220");
     Game.PlayerName.at(2) = "<b>Bo</b>";
     Game.PlayerScore.at(2) = 32767;
     ShowPlayerStatus(2);

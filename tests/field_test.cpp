@@ -30,6 +30,7 @@ bool IsDrawn(const Drawing& wanted) {
 TEST_F(Field, OfThreeByTwoBoxesIsNumberedAsCountedByHand) {
     SetUpGame(3, 2, Humanoid, Humanoid);
     EXPECT_EQ(TheNullDesktop.Drawings.size(), 12U) << "a point for each, and nothing else";
+    Game.GridColumns = 5; // of the next game
     SaveGame("field.qbs");
     EXPECT_EQ(BytesOf("field.qbs"), BytesOf(QUIBLINK_TESTS "/samples/three_by_two.qbs"));
 }
@@ -91,6 +92,7 @@ TEST_F(Field, ThatNoLongerFitsIsLeftWhereItWasAndWarnedOfDuringAGame) {
     EXPECT_TRUE(RedrawField()) << "no field yet";
     EXPECT_TRUE(TheNullDesktop.Drawings.empty());
     SetUpGame(3, 2, Humanoid, Humanoid);
+    TheNullDesktop.PictureWidth = 900;
     TheNullDesktop.PictureHeight = 750;
     EXPECT_FALSE(Form_Resize()) << "fits to the twip";
     TheNullDesktop.PictureWidth = 898;

@@ -1,6 +1,8 @@
 // How the pointer on the field becomes a line.
 #include "core/play/pointer_input.h"
 
+#include <set>
+
 #include "support/game_test.h"
 #include "support/person.h"
 #include "ui/commands.h"
@@ -21,6 +23,23 @@ protected:
     static void MoveTo(double x, double y) {
         picPlayingField_MouseMove(static_cast<float>(Game.FieldLeft + 12 * x),
                                   static_cast<float>(Game.FieldTop + 15 * y));
+    }
+
+    // L, U, R and D for the arrows, T turns.
+    static void PressKeys(const std::string& keys) {
+        for (const char key : keys)
+            picPlayingField_KeyDown(static_cast<FieldKey>(std::string("LURDT").find(key)));
+    }
+
+    // Gathers what any keys lead to.
+    static void Reach(int line, std::set<int>& reached) {
+        if (!reached.insert(line).second)
+            return;
+        for (const char key : std::string("LURDT")) {
+            Game.GhostLine = ToInteger(line);
+            PressKeys({key});
+            Reach(Game.GhostLine, reached);
+        }
     }
 
     static Drawing Last() { return TheNullDesktop.Drawings.back(); }
@@ -87,13 +106,16 @@ TEST_F(Pointer, ShowsAndTakesNothingUnlessAPersonIsAwaited) {
         const std::size_t drawings = TheNullDesktop.Drawings.size();
         PressLine(5);
         mnuHint_Click();
+        PressKeys("LURDT");
         EXPECT_EQ(Game.GhostLine + Game.ChosenLine, 0);
         EXPECT_EQ(TheNullDesktop.Drawings.size(), drawings);
         if (Game.HintMode)
             continue;
         Game.GhostLine = 5; // shown before
         picPlayingField_MouseDown();
-        EXPECT_EQ(Game.ChosenLine, 0);
+        picPlayingField_KeyDown(FieldKey::Draw);
+        PressKeys("LURDT");
+        EXPECT_TRUE(Game.ChosenLine == 0 && Game.GhostLine == 5);
         MoveTo(12, 12);
         EXPECT_EQ(Game.GhostLine, 0) << "but an old preview goes";
         EXPECT_EQ(Last().What, Drawing::Kind::Erasure);
@@ -123,6 +145,64 @@ TEST_F(Pointer, ShowsAHintUntilItMovesAndTakesOnePressOnly) {
     Game.MouseDownSeen = false;
     mnuHint_Click();
     EXPECT_TRUE(Game.ChosenLine == 15 && Game.GhostLine == 0) << "one press, one line";
+}
+
+TEST_F(Pointer, IsNotNeededWhereThereAreKeys) {
+    const struct {
+        std::vector<int> Drawn;
+        const char* Keys;
+        std::vector<int> Lines; // previewed, key by key
+    } cases[] = {
+        {{}, "RRRLLLUU", {5, 6, 6, 5, 4, 4, 1, 1}}, // begins in the middle
+        {{}, "TTTDDTTR", {5, 13, 5, 8, 8, 13, 5, 6}},
+        {{2, 5}, "LULRD", {4, 1, 1, 3, 6}},          // straight on over what is drawn
+        {{6, 14}, "RRTLLD", {5, 3, 16, 12, 10, 11}}, // else to the nearest
+        {{10, 11, 12, 13, 14, 15, 16, 17, 5}, "TT", {2, 2}},
+        {{1, 2, 3, 4, 5, 6, 7, 8, 9, 12}, "TT", {13, 13}},
+    };
+    for (const GameState empty = Game; const auto& c : cases) {
+        Game = empty;
+        DrawForNobody(c.Drawn);
+        std::vector<int> lines;
+        for (const char* key = c.Keys; *key != 0; ++key) {
+            PressKeys({*key});
+            lines.push_back(Game.GhostLine);
+        }
+        EXPECT_EQ(lines, c.Lines) << c.Keys;
+    }
+}
+
+TEST_F(Pointer, AndKeysTakeOverFromEachOther) {
+    DrawForNobody({9});
+    Game.ComputerGhostLine = 9;
+    PointAt(1);
+    PressKeys("R");
+    picPlayingField_MouseMove(Game.PointerX, Game.PointerY);
+    EXPECT_EQ(Game.GhostLine, 2) << "the pointer lies still";
+    PointAt(4);
+    Game.ComputerGhostLine = 9;
+    PressKeys("D");
+    picPlayingField_KeyDown(FieldKey::Draw);
+    EXPECT_TRUE(Game.ChosenLine == 7 && Game.ComputerGhostLine == 0);
+    Game.Lines.at(7).Drawn = 7;
+    Game.MouseDownSeen = false;
+    PressKeys("L");
+    EXPECT_EQ(Game.GhostLine, 4) << "near the last one";
+}
+
+TEST_F(Pointer, IsNotNeededForAnyLineOfAField) {
+    const GameState empty = Game;
+    for (int board = 1; board < 1 << Game.HorizontalLineCount; ++board) {
+        Game = empty;
+        for (int line = 1; line <= Game.LineCount; ++line)
+            if ((board >> (line - 1)) % 2 == 0)
+                DrawForNobody({line});
+        for (const int start : UndrawnLines()) {
+            std::set<int> reached;
+            Reach(start, reached);
+            ASSERT_EQ(reached.size(), UndrawnLines().size()) << board << ", " << start;
+        }
+    }
 }
 
 } // namespace

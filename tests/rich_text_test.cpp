@@ -63,7 +63,7 @@ TEST(RichText, ReadsTextAndTablesEvenBrokenOnes) {
     const struct {
         std::string Rtf, Text;
     } cases[] = {
-        {"{\\rtf1 a\r\nb\\par\\\n}", "ab||"},
+        {"{\\rtf1 a \r\nb\\par\\\n}", "a b||"},
         {"{\\rtf1\\{\\}\\\\\\~\\bullet\\tab x}", "{}\\\u00A0\u2022\tx|"},
         {"{\\rtf1\\'80\\'e9\\'93\\'zz}", "\u20AC\u00E9\u201Czz|"},
         {"{\\rtf1\\uc1 \\u8364?\\u233\\'e9x}", "\u20AC\u00E9x|"},

@@ -57,8 +57,9 @@ void ExpectGivenUp() {
     EXPECT_EQ(Game.PlayerScore, PerPlayer<Integer>{});
     EXPECT_EQ(Game.GhostLine + Game.ComputerGhostLine + Game.ChosenLine + Game.LastLine, 0);
     EXPECT_EQ(VisibleMarkers(), 0);
-    EXPECT_EQ(frmQuibsMain.txtBoxesStatus.Text + frmQuibsMain.txtLinesStatus.Text + Captions(),
-              "|");
+    EXPECT_EQ(Captions(), "|");
+    EXPECT_EQ(PanelTexts().substr(PanelTexts().size() - 2), "||");
+    EXPECT_EQ(PanelTexts().find("of an old game"), std::string::npos);
     EXPECT_TRUE(TheNullDesktop.Drawings.empty());
 }
 
@@ -68,7 +69,10 @@ void WatchGame(std::uint32_t seed) {
     TheNullDesktop.WhenYielding = [] {
         ASSERT_TRUE(BoardIsSound());
         ASSERT_EQ(IsEnabled(Command::Hint), Game.GameInPlay && !Game.MouseDownSeen);
-        ASSERT_TRUE(!Game.GameInPlay || VisibleMarkers() == Game.CurrentPlayer);
+        if (!Game.GameInPlay)
+            return;
+        ASSERT_EQ(VisibleMarkers(), Game.CurrentPlayer);
+        ASSERT_EQ(Captions(), Game.CurrentPlayer == 1 ? "Colossus's Turn|" : "|Guardian's Turn");
     };
 }
 
@@ -79,6 +83,7 @@ void Prepare(int columns, Integer firstKind, Integer secondKind, const std::vect
     Game.GameInPlay = false;
     Game.GamePaused = true;
     EnterPhase(Phase::Prepared);
+    frmQuibsMain.txtPlayer1Status.Text = frmQuibsMain.txtPlayer2Status.Text = "of an old game";
 }
 
 struct Wait {
@@ -103,6 +108,7 @@ void ExpectPaused() {
     EXPECT_EQ(EnabledCommands(), Paused);
     EXPECT_EQ(Captions(), Game.PlayerName.at(Game.CurrentPlayer) + "'s Turn|GAME PAUSED");
     EXPECT_EQ(VisibleMarkers() + Game.GhostLine, 0);
+    EXPECT_NE(TheNullDesktop.Drawings.back().DrawnColor, Game.GhostColor) << "left painted";
     AfterSeconds(0, [drawn = Game.LinesDrawn] { EXPECT_GE(Game.LinesDrawn, drawn) << "resumed"; });
 }
 
@@ -113,7 +119,8 @@ void ExpectClosed() {
 }
 
 void Fail() {
-    throw std::out_of_range("a bad index");
+    Integer full = 32767;
+    Increase(full, 1);
 }
 
 // In the wait for a person this line would be refused if the game went on.
@@ -138,6 +145,10 @@ const Event Events[] = {
     {"a person", ExpectPlayedToTheEnd, {}, {[] { Game.PlayerKind.at(1) = Humanoid; }}},
     {"a computer", ExpectPlayedToTheEnd, {}, {[] { Game.PlayerKind.at(1) = ComputerAverage; }}},
     {"a pause", ExpectPaused, {}, {PointAtFirstLine, mnuPause_Click, mnuPause_Click}},
+    {"a press that a pause overtakes",
+     ExpectPaused,
+     {},
+     {PointAtFirstLine, picPlayingField_MouseDown, mnuPause_Click}},
     {"Quit", ExpectGivenUp, {Yes}, {mnuQuit_Click}},
     {"Quit after a pause", ExpectGivenUp, {Yes}, {mnuPause_Click, mnuQuit_Click}},
     {"a failure", ExpectGivenUp, {Ok}, {Fail}},
@@ -180,6 +191,17 @@ TEST_F(TurnLoop, ObeysInTheMiddleOfEveryWaitAndLosesNoTime) {
             RunCommand(Command::Start);
             ExpectPlayedToTheEnd();
         }
+}
+
+TEST_F(TurnLoop, AsksThePersonWhomADialogPutInThePlaceOfAChoosingComputer) {
+    Prepare(2, ComputerIntelligent, ComputerAverage, {1, 2, 3, 4});
+    AfterSeconds(0.5, [] { Game.PlayerKind.at(1) = Humanoid; });
+    TheNullDesktop.WhenIdle = [] {
+        EXPECT_EQ(Game.LinesDrawn, 4);
+        Form_Unload();
+    };
+    RunCommand(Command::Start);
+    EXPECT_TRUE(Game.ProgramEnding);
 }
 
 TEST_F(TurnLoop, TellsTheEndOfAGameAndBlinksForThreeSecondsUndisturbed) {
@@ -234,7 +256,8 @@ TEST_F(TurnLoop, StartsTwentyGamesDuringBlinksOnOneStackAndSurvivesAFailureThere
     TheNullDesktop.Answers = {Ok};
     RunGuarded([] { RunCommand(Command::Start); });
     EXPECT_EQ(frames.size(), 1U);
-    EXPECT_EQ(TheNullDesktop.Boxes.back().Text, "The game had to be ended: a bad index.");
+    EXPECT_EQ(TheNullDesktop.Boxes.back().Text,
+              "The game had to be ended: a number of the game does not fit into 16 bits.");
     ExpectGivenUp();
     TheNullDesktop.WhenYielding = [] {
         EXPECT_FALSE(Game.ProgramEnding) << "a blink went on";
@@ -256,9 +279,11 @@ TEST_F(TurnLoop, TakesExchangeOnlyForAPreparedGame) {
     RunCommand(Command::Exchange);
     EXPECT_EQ(Game.CurrentPlayer, other);
     EXPECT_EQ(Captions(), Game.PlayerName.at(other) + "'s Turn|GAME PAUSED");
-    TheNullDesktop.Answers = {No, Yes};
-    RunCommand(Command::Exit);
-    RunCommand(Command::Quit);
+    TheNullDesktop.Answers = {No, No, Yes};
+    for (const Command command : {Command::Exit, Command::Quit, Command::Quit}) {
+        EXPECT_EQ(EnabledCommands(), Prepared);
+        RunCommand(command);
+    }
     EXPECT_EQ(TheNullDesktop.Boxes.at(1).Text, "Are you sure you want to quit the current game?");
     mnuExchange_Click();
     ExpectGivenUp();

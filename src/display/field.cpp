@@ -11,10 +11,6 @@ Integer CentredStart(int pictureSize, int fieldSize) {
     return RoundToInteger((pictureSize - fieldSize) / 2.0);
 }
 
-bool IsVertical(int line) {
-    return line > Game.HorizontalLineCount;
-}
-
 struct EndPoints {
     int FromX, FromY, ToX, ToY;
 };

@@ -22,7 +22,8 @@ SoundList FindSounds(const std::string& prefix) {
 } // namespace
 
 void PlaySound(const std::string& fileName) {
-    if (!Game.SoundOn || !FileExists(fileName))
+    const bool isThere = FileExists(fileName); // asked whether sound is on or not
+    if (!isThere || !Game.SoundOn)
         return;
     SetWaveFile(fileName);
     CommandWavePlayer(WaveCommand::Open);

@@ -25,6 +25,10 @@ std::string KindWord(int kind) {
     }
 }
 
+Label TurnCaption(int player) {
+    return {TurnText(player), Game.PlayerName.at(player).size()};
+}
+
 std::string CounterText(const char* name, int count, int total) {
     return name + NumberField(count) + " of " + NumberField(total);
 }
@@ -32,10 +36,11 @@ std::string CounterText(const char* name, int count, int total) {
 } // namespace
 
 void ShowPlayerStatus(int player) {
-    const std::string status = Game.PlayerName.at(player) + ": " +
-                               NumberField(Game.PlayerScore.at(player)) + std::string(5, ' ') +
-                               KindWord(Game.PlayerKind.at(player));
-    (player == 1 ? frmQuibsMain.txtPlayer1Status : frmQuibsMain.txtPlayer2Status).Text = status;
+    const std::string& name = Game.PlayerName.at(player);
+    const std::string status = name + ": " + NumberField(Game.PlayerScore.at(player)) +
+                               std::string(5, ' ') + KindWord(Game.PlayerKind.at(player));
+    (player == 1 ? frmQuibsMain.txtPlayer1Status : frmQuibsMain.txtPlayer2Status) = {status,
+                                                                                     name.size()};
     ShowPlayerColor(player);
 }
 
@@ -64,17 +69,24 @@ std::string TurnText(int player) {
 void ShowTurn(int player) {
     if (!IsPlayer(player))
         return;
-    ShowCaptions(player == 1 ? TurnText(1) : "", player == 2 ? TurnText(2) : "");
+    ShowCaptions(player == 1 ? TurnCaption(1) : Label{}, player == 2 ? TurnCaption(2) : Label{},
+                 player);
     ShowMarkers(MarkerPair::First, false);
     Shape& marker = player == 1 ? frmQuibsMain.shpPlayer1Active : frmQuibsMain.shpPlayer2Active;
     marker = {Game.PlayerColor.at(player), true};
 }
 
 void ShowGamePaused() {
-    ShowCaptions(TurnText(Game.CurrentPlayer), "GAME PAUSED");
+    ShowCaptions(TurnCaption(Game.CurrentPlayer), {"GAME PAUSED"}, Game.CurrentPlayer);
     ShowMarkers(MarkerPair::First, false);
 }
 
+<<<<<<< HEAD
+void ShowCaptions(const Label& first, const Label& second, int markedPlayer) {
+    frmQuibsMain.lblPlayer1Active = first;
+    frmQuibsMain.lblPlayer2Active = second;
+    frmQuibsMain.fraStatistics.MarkedPlayer = markedPlayer;
+=======
 std::string OutcomeText() {
     const std::string& winner = frmQuibsMain.lblPlayer2Active.Caption;
     return frmQuibsMain.lblPlayer1Active.Caption + (winner.empty() ? "" : " " + winner);
@@ -83,6 +95,7 @@ std::string OutcomeText() {
 void ShowCaptions(const std::string& first, const std::string& second) {
     frmQuibsMain.lblPlayer1Active.Caption = first;
     frmQuibsMain.lblPlayer2Active.Caption = second;
+>>>>>>> main
 }
 
 void ShowMarkers(MarkerPair pair, bool visible) {

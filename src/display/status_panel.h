@@ -4,6 +4,7 @@
 #include <string>
 
 #include "platform/color.h"
+#include "platform/controls.h"
 
 // Name, score, kind and colour of `player`. Throws std::out_of_range unless that is 1 or 2.
 void ShowPlayerStatus(int player);
@@ -16,7 +17,8 @@ void ClearCounters();
 // "Colossus's Turn". Throws std::out_of_range unless `player` is 1 or 2.
 std::string TurnText(int player);
 
-// Caption and marker of the player to move; any other number than 1 and 2 changes nothing.
+// Caption, marker and status line of the player to move; any other number than 1 and 2 changes
+// nothing.
 void ShowTurn(int player);
 
 // Whose turn it will be beside "GAME PAUSED", without markers. Throws std::out_of_range when
@@ -26,7 +28,8 @@ void ShowGamePaused();
 // What the captions say at the end of a game: "The Winner Is: Colossus" or "It's A Draw.".
 std::string OutcomeText();
 
-void ShowCaptions(const std::string& first, const std::string& second);
+// Both captions, and the player whose status line stands out, 0 = none.
+void ShowCaptions(const Label& first, const Label& second, int markedPlayer);
 
 // The markers come in two pairs, which take turns when the end of a game blinks.
 enum class MarkerPair { First, Second };

@@ -29,13 +29,17 @@ inline constexpr std::size_t CommandCount = static_cast<std::size_t>(Command::Ab
 
 enum class PointerShape { Default = 0, Hourglass = 11 };
 
+// The first so many bytes of a text are a player's name: the one part of it that the window may
+// shorten.
 struct Label {
     std::string Caption;
+    std::size_t NameLength = 0;
     bool operator==(const Label&) const = default;
 };
 
 struct TextBox {
     std::string Text;
+    std::size_t NameLength = 0;
     bool operator==(const TextBox&) const = default;
 };
 
@@ -51,6 +55,11 @@ struct Picture {
     bool operator==(const Picture&) const = default;
 };
 
+struct Frame {
+    int MarkedPlayer = 0; // whose status line stands out: who is to move or has won; 0 = neither
+    bool operator==(const Frame&) const = default;
+};
+
 // A menu entry and its toolbar button: they are one command and always agree.
 struct CommandState {
     bool Enabled = true;
@@ -59,6 +68,7 @@ struct CommandState {
 };
 
 struct MainWindowControls {
+    Frame fraStatistics;
     TextBox txtPlayer1Status, txtPlayer2Status;
     Shape shpPlayer1Status{Black, true}, shpPlayer2Status{Black, true};
     TextBox txtBoxesStatus, txtLinesStatus;

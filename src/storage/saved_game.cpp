@@ -114,6 +114,7 @@ void RequireRows(Integer count) {
 void ForgetLines() {
     Game.LastLine = 0;
     Game.GhostLine = 0;
+    Game.LastGhostLine = 0;
     Game.ComputerGhostLine = 0;
     Game.ChosenLine = 0;
     Game.Told = {};

@@ -208,7 +208,7 @@ void mnuExchange_Click() {
     if (Game.GameInPlay || !Game.GamePaused || !IsPlayer(Game.CurrentPlayer))
         return;
     Game.CurrentPlayer = ToInteger(OtherPlayer(Game.CurrentPlayer));
-    frmQuibsMain.lblPlayer1Active.Caption = TurnText(Game.CurrentPlayer);
+    ShowGamePaused();
     TellNews();
 }
 
@@ -288,6 +288,23 @@ bool SaveGameAs(const std::string& directory, const std::string& name) {
 
 void picPlayingField_MouseDown() {
     PressGhostLine();
+}
+
+void picPlayingField_KeyDown(FieldKey key) {
+    switch (key) {
+    case FieldKey::Left:
+        return MoveGhostLine(Direction::Left);
+    case FieldKey::Up:
+        return MoveGhostLine(Direction::Up);
+    case FieldKey::Right:
+        return MoveGhostLine(Direction::Right);
+    case FieldKey::Down:
+        return MoveGhostLine(Direction::Down);
+    case FieldKey::Turn:
+        return TurnGhostLine();
+    case FieldKey::Draw:
+        return PressGhostLine();
+    }
 }
 
 void picPlayingField_MouseMove(float x, float y) {

@@ -53,6 +53,10 @@ void OpenGame(const std::string& path);
 // is to stay open because the name is missing.
 bool SaveGameAs(const std::string& directory, const std::string& name);
 
-// A press of any button on the field, and a move to (x, y) in twips.
+// The keys that play, whatever the desktop calls them.
+enum class FieldKey { Left, Up, Right, Down, Turn, Draw };
+
+// A press of any button or of a key on the field, and a move to (x, y) in twips.
 void picPlayingField_MouseDown();
+void picPlayingField_KeyDown(FieldKey key);
 void picPlayingField_MouseMove(float x, float y);

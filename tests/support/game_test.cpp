@@ -43,6 +43,12 @@ bool BoardIsSound() {
     return sound == Game;
 }
 
+std::string PanelTexts() {
+    const MainWindowControls& form = frmQuibsMain;
+    return form.txtPlayer1Status.Text + "|" + form.txtPlayer2Status.Text + "|" +
+           form.txtBoxesStatus.Text + "|" + form.txtLinesStatus.Text;
+}
+
 void SetUpGame(int columns, int rows, Integer firstKind, Integer secondKind) {
     Game.GridColumns = ToInteger(columns);
     Game.GridRows = ToInteger(rows);

@@ -12,6 +12,9 @@ bool BoardIsSound();
 // Sets up a new game of so many boxes and kinds, player 1 to move, as if it were being played.
 void SetUpGame(int columns, int rows, Integer firstKind, Integer secondKind);
 
+// What the status panel tells of both players, of the boxes and of the lines.
+std::string PanelTexts();
+
 // Draws lines for nobody: sides count, complete boxes go to player 1.
 void DrawForNobody(const std::vector<int>& lines);
 

@@ -71,8 +71,10 @@ protected:
         const int left = window.left() + (window.width() - columns * Spacing) / 2;
         for (int top = window.top(); top < window.center().y(); ++top) {
             Field = FieldAt({left, top}, columns, rows);
-            if (AllPointsAre(Drawn))
-                return true;
+            if (!AllPointsAre(Drawn))
+                continue;
+            Field = FieldAt({left, top + 1}, columns, rows); // the middle of the dots
+            return true;
         }
         return false;
     }

@@ -19,7 +19,8 @@ int Winner() {
 }
 
 void ShowWinner(int winner) {
-    ShowCaptions("The Winner Is:", Game.PlayerName.at(winner));
+    const std::string& name = Game.PlayerName.at(winner);
+    ShowCaptions({"The Winner Is:"}, {name, name.size()}, winner);
     ShowAllMarkers(false);
     FillAllMarkers(Game.PlayerColor.at(winner));
     const bool isComputer = Game.PlayerKind.at(winner) != Humanoid;
@@ -27,7 +28,7 @@ void ShowWinner(int winner) {
 }
 
 void ShowDraw() {
-    ShowCaptions("It's A Draw.", "");
+    ShowCaptions({"It's A Draw."}, {}, 0);
     FillAllMarkers(Black);
     PlaySound(NextSound(Game.DrawSounds));
 }

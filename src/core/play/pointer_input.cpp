@@ -19,14 +19,6 @@ bool PersonIsAwaited() {
            IsPlayer(Game.CurrentPlayer) && Game.PlayerKind.at(Game.CurrentPlayer) == Humanoid;
 }
 
-void EraseShownGhostLine() {
-    if (Game.GhostLine <= 0)
-        return;
-    if (Game.Lines.at(Game.GhostLine).Drawn == 0)
-        EraseGhostLine(Game.GhostLine);
-    Game.GhostLine = 0;
-}
-
 void RestoreComputerLine() {
     if (Game.ComputerGhostLine <= 0)
         return;
@@ -82,8 +74,26 @@ int LineAt(float x, float y) {
 void PreviewLine(int line) {
     if (line == 0 || Game.Lines.at(line).Drawn != 0)
         return;
-    Game.GhostLine = ToInteger(line);
+    Game.GhostLine = Game.LastGhostLine = ToInteger(line);
     DrawGhostLine(line, Game.GhostColor);
+}
+
+// The person looks elsewhere: the preview and the computer's line have been seen.
+void PreviewInstead(int line) {
+    RemoveGhostLine();
+    RestoreComputerLine();
+    PreviewLine(line);
+    TellGhostLine();
+}
+
+template <class Step>
+void StepGhostLine(Step leadFrom) {
+    if (!PersonIsAwaited() || Game.HintMode || !TablesMatchField())
+        return;
+    const int last = Game.LastGhostLine > 0 ? Game.LastGhostLine : MiddleLine();
+    const int line = Game.GhostLine > 0 ? leadFrom(Game.GhostLine) : UndrawnLineNear(last);
+    if (line != 0)
+        PreviewInstead(line);
 }
 
 // The line that a computer would draw in the person's place.
@@ -107,11 +117,23 @@ int AskComputerForHint() {
 void ShowGhostLine(float x, float y) {
     if (Game.HintMode)
         return;
-    EraseShownGhostLine();
-    RestoreComputerLine();
-    if (PersonIsAwaited() && TablesMatchField())
-        PreviewLine(LineAt(x, y));
-    TellGhostLine();
+    PreviewInstead(PersonIsAwaited() && TablesMatchField() ? LineAt(x, y) : 0);
+}
+
+void MoveGhostLine(Direction direction) {
+    StepGhostLine([direction](int line) { return LineTowards(direction, line); });
+}
+
+void TurnGhostLine() {
+    StepGhostLine(LineAcross);
+}
+
+void RemoveGhostLine() {
+    if (Game.GhostLine <= 0)
+        return;
+    if (Game.Lines.at(Game.GhostLine).Drawn == 0)
+        EraseGhostLine(Game.GhostLine);
+    Game.GhostLine = 0;
 }
 
 void PressGhostLine() {
@@ -125,7 +147,7 @@ void PressGhostLine() {
 void ShowHint() {
     if (!PersonIsAwaited() || Game.HintMode || Game.ChosenLine != 0)
         return;
-    EraseShownGhostLine();
+    RemoveGhostLine();
     const int hint = AskComputerForHint();
     // On a large field the choice yields, and the person may have paused or quit meanwhile.
     if (PersonIsAwaited())

@@ -1,16 +1,17 @@
 #include "core/play/turn_loop.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "ai/move_selection.h"
 #include "base/random.h"
 #include "core/play/game_over.h"
 #include "core/play/game_setup.h"
+#include "core/play/pointer_input.h"
 #include "core/rules/moves.h"
 #include "core/rules/pacing.h"
 #include "core/state/game_state.h"
 #include "display/command_states.h"
-#include "display/field.h"
 #include "display/news.h"
 #include "display/status_panel.h"
 #include "platform/desktop.h"
@@ -35,10 +36,9 @@ void WaitForPerson() {
     while (PersonIsToMove())
         YieldToEvents(Forever);
     Game.MouseDownSeen = true;
-    if (Game.GhostLine > 0) {
-        EraseGhostLine(Game.GhostLine);
-        Game.GhostLine = 0;
-    }
+    if (Game.GamePaused && Game.ChosenLine > 0)
+        Game.GhostLine = std::exchange(Game.ChosenLine, Integer{0}); // a press that is not played
+    RemoveGhostLine();
 }
 
 void AskPerson() {
@@ -173,7 +173,7 @@ void AbandonGame() {
     Game.QuitRequested = false;
     Game.GameOverShown = false;
     Game.CommandAfterGameOver.reset();
-    ShowCaptions("", "");
+    ShowCaptions({}, {}, 0);
     ForgetTurn();
     Game.PlayerScore = {};
     ShowPlayerStatus(1);

@@ -80,7 +80,7 @@ void ScoreBoxes(int count) {
     Increase(Game.BoxesClaimed, count);
     ShowBoxesStatus();
     if (Game.BoxesClaimed >= Game.BoxCount) {
-        ShowCaptions("", "");
+        ShowCaptions({}, {}, 0);
         ShowMarkers(MarkerPair::First, false);
     }
 }

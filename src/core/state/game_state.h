@@ -110,7 +110,8 @@ struct GameState {
     Integer CurrentPlayer = 0;     // 1 or 2 whenever the turn loop runs; 0 = not drawn yet
     Integer LastLine = 0;          // most recently drawn by either player, 0 = none
     Integer ComputerGhostLine = 0; // shown in ComputerGhostColor, 0 = none
-    Integer GhostLine = 0;         // shown as hover preview or hint, 0 = none
+    Integer GhostLine = 0;         // shown as preview or hint, 0 = none
+    Integer LastGhostLine = 0;     // shown last, where the keys go on; 0 = none yet
 
     ToldNews Told;
 
@@ -143,6 +144,10 @@ inline bool IsPlayer(int player) {
 
 inline int OtherPlayer(int player) {
     return 3 - player;
+}
+
+inline bool IsVertical(int line) {
+    return line > Game.HorizontalLineCount;
 }
 
 // The box beyond a line of `box`, 0 = the border.

@@ -15,6 +15,7 @@ public:
     explicit Saying(QAccessibleInterface* field) : Field(field) {}
 
     QString Text;
+    bool IsLast = false;
 
     bool isValid() const override { return Field->isValid(); }
     QObject* object() const override { return nullptr; }
@@ -26,7 +27,11 @@ public:
     int indexOfChild(const QAccessibleInterface* /*child*/) const override { return -1; }
     QRect rect() const override { return Field->rect(); }
     QAccessible::Role role() const override { return QAccessible::ListItem; } // adds no word
-    QAccessible::State state() const override { return Field->state(); }
+    QAccessible::State state() const override {
+        QAccessible::State state = Field->state();
+        state.focused = state.focused && IsLast;
+        return state;
+    }
     QString text(QAccessible::Text kind) const override {
         return kind == QAccessible::Name ? Text : QString();
     }
@@ -47,15 +52,19 @@ public:
     }
 
     int PutIntoWords(const QString& text) {
-        Last = 1 - Last;
-        Sayings.at(Last)->Text = text;
-        return Last;
+        const int next = Sayings.at(0)->IsLast ? 1 : 0;
+        Sayings.at(next)->Text = text;
+        Sayings.at(next)->IsLast = true;
+        Sayings.at(1 - next)->IsLast = false;
+        return next;
     }
 
     int childCount() const override { return static_cast<int>(Sayings.size()); }
     QAccessibleInterface* child(int index) const override {
         return index >= 0 && index < childCount() ? Sayings.at(index) : nullptr;
     }
+    // What is said lies nowhere on the field: a press there is one on the field.
+    QAccessibleInterface* childAt(int /*x*/, int /*y*/) const override { return nullptr; }
     int indexOfChild(const QAccessibleInterface* child) const override {
         return child == Sayings.at(0) ? 0 : child == Sayings.at(1) ? 1 : -1;
     }
@@ -66,7 +75,6 @@ public:
 
 private:
     std::array<Saying*, 2> Sayings{};
-    int Last = 0;
 };
 
 QAccessibleInterface* AccessibleFieldOf(const QString& /*className*/, QObject* object) {
@@ -81,7 +89,7 @@ void MakeFieldAccessible() {
 }
 
 void SayAtField(PlayingField* field, const QString& text) {
-    auto* accessible = static_cast<AccessibleField*>(QAccessible::queryAccessibleInterface(field));
+    auto* accessible = dynamic_cast<AccessibleField*>(QAccessible::queryAccessibleInterface(field));
     if (accessible == nullptr)
         return;
     QAccessibleEvent event(field, QAccessible::Focus);

@@ -1,8 +1,10 @@
 #include "ui/qt/directory_reader.h"
 
+#include <QDir>
 #include <QFile>
 #include <algorithm>
 #include <filesystem>
+#include <optional>
 #include <sys/eventfd.h>
 #include <thread>
 #include <unistd.h>
@@ -13,6 +15,7 @@ namespace {
 // outlive the window, and even the program's end.
 struct Reading {
     std::filesystem::path Directory;
+    QString HiddenToo;
     DirectoryContents Contents;
     int Event = eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK);
 
@@ -22,13 +25,23 @@ struct Reading {
     ~Reading() { close(Event); }
 };
 
-void ReadEntry(const std::filesystem::directory_entry& entry, DirectoryContents& contents) {
+std::optional<QString> AsText(const std::filesystem::path& name) {
+    const QString text = QFile::decodeName(name.c_str());
+    if (QFile::encodeName(text) != name.c_str())
+        return std::nullopt;
+    return text;
+}
+
+void ReadEntry(const std::filesystem::directory_entry& entry, Reading& reading) {
     std::error_code unreadable;
-    const QString name = QFile::decodeName(entry.path().filename().c_str());
-    if (name.endsWith(".qbs", Qt::CaseInsensitive) && entry.is_regular_file(unreadable))
-        contents.Games.append(name);
-    else if (!name.startsWith('.') && entry.is_directory(unreadable))
-        contents.Directories.append(name);
+    const std::optional<QString> name = AsText(entry.path().filename());
+    if (!name)
+        return;
+    if (name->endsWith(".qbs", Qt::CaseInsensitive) && entry.is_regular_file(unreadable))
+        reading.Contents.Games.append(*name);
+    else if ((!name->startsWith('.') || *name == reading.HiddenToo) &&
+             entry.is_directory(unreadable))
+        reading.Contents.Directories.append(*name);
 }
 
 void ReadDirectory(Reading& reading) {
@@ -36,7 +49,7 @@ void ReadDirectory(Reading& reading) {
     std::filesystem::directory_iterator entry(reading.Directory, unreadable);
     for (; !unreadable && entry != std::filesystem::directory_iterator();
          entry.increment(unreadable))
-        ReadEntry(*entry, reading.Contents);
+        ReadEntry(*entry, reading);
     reading.Contents.Directories.sort(Qt::CaseInsensitive);
     reading.Contents.Games.sort(Qt::CaseInsensitive);
     const std::uint64_t done = 1;
@@ -44,13 +57,14 @@ void ReadDirectory(Reading& reading) {
 }
 
 // In the system's table of mounts blanks stand as octal numbers.
-QString Unescape(const QByteArray& text) {
+std::optional<QString> Unescape(const QByteArray& text) {
     QByteArray plain = text;
     plain.replace("\\040", " ")
         .replace("\\011", "\t")
         .replace("\\012", "\n")
+        .replace("\\043", "#")
         .replace("\\134", "\\");
-    return QFile::decodeName(plain);
+    return AsText(plain.constData());
 }
 
 // Mounts of the system's own, like /proc, have no device behind them.
@@ -61,15 +75,22 @@ bool IsDrive(const QByteArray& device, const QByteArray& type) {
 
 } // namespace
 
-void DirectoryReader::Read(const QString& directory) {
+void DirectoryReader::Read(const QString& directory, const QString& hiddenToo) {
     auto reading = std::make_shared<Reading>();
     reading->Directory = QFile::encodeName(directory).toStdString();
+    reading->HiddenToo = hiddenToo;
     Waiting = std::make_unique<QSocketNotifier>(reading->Event, QSocketNotifier::Read);
     connect(Waiting.get(), &QSocketNotifier::activated, this, [this, reading] {
         Waiting->setEnabled(false);
         emit Done(reading->Contents);
     });
     std::thread([reading] { ReadDirectory(*reading); }).detach();
+}
+
+QString CurrentDirectory() {
+    std::error_code gone;
+    const std::filesystem::path current = std::filesystem::current_path(gone);
+    return gone ? QDir::homePath() : AsText(current).value_or(QDir::homePath());
 }
 
 QStringList MountedDrives() {
@@ -81,9 +102,9 @@ QStringList MountedDrives() {
         const QList<QByteArray> columns = line.split(' ');
         if (columns.size() < 3 || !IsDrive(columns.at(0), columns.at(2)))
             continue;
-        const QString drive = Unescape(columns.at(1));
-        if (!drives.contains(drive))
-            drives.append(drive);
+        const std::optional<QString> drive = Unescape(columns.at(1));
+        if (drive && !drives.contains(*drive))
+            drives.append(*drive);
     }
     std::sort(drives.begin(), drives.end());
     return drives;

@@ -6,9 +6,10 @@
 #include <QStringList>
 #include <memory>
 
+// Sorted. Names that are no text are left out, for a file could not be found again by one.
 struct DirectoryContents {
-    QStringList Directories; // names, sorted; hidden ones left out
-    QStringList Games;       // names of the regular files ending in ".qbs" in any case, sorted
+    QStringList Directories; // without the hidden ones, but for the one that is asked for
+    QStringList Games;       // the regular files ending in ".qbs" in any case
 };
 
 class DirectoryReader : public QObject {
@@ -18,7 +19,7 @@ public:
     using QObject::QObject;
 
     // Returns at once; what an earlier call was still reading is forgotten.
-    void Read(const QString& directory);
+    void Read(const QString& directory, const QString& hiddenToo);
 
 signals:
     // An unreadable directory is empty.
@@ -27,6 +28,9 @@ signals:
 private:
     std::unique_ptr<QSocketNotifier> Waiting;
 };
+
+// Where the program runs. When that directory is gone, or its name is no text: the user's home.
+QString CurrentDirectory();
 
 // Where drives are mounted, "/" first. Asks none of them, so that a dead one does no harm.
 QStringList MountedDrives();

@@ -1,16 +1,17 @@
 #include "ui/qt/file_lists.h"
 
 #include <QComboBox>
-#include <QDir>
 #include <QGridLayout>
 #include <QKeyEvent>
 #include <QListWidget>
 #include <QStyle>
+#include <QTimer>
 
 namespace {
 
 constexpr int PathRole = Qt::UserRole;
 constexpr QSize SmallestList(220, 190); // pixels
+constexpr int SlowReading = 200;        // milliseconds
 
 template <class List>
 List* Named(List* list, const char* objectName, const char* accessibleName) {
@@ -37,12 +38,19 @@ QString DriveOf(const QString& directory, const QComboBox* drives) {
     return longest;
 }
 
+// The next name on the way from a directory down to another; empty when it does not lie there.
+QString StepTowards(const QString& goal, const QString& directory) {
+    const QString parent = directory.endsWith('/') ? directory : directory + '/';
+    return goal.startsWith(parent) ? goal.mid(parent.size()).section('/', 0, 0) : QString();
+}
+
 } // namespace
 
 FileLists::FileLists(QWidget* parent)
     : QWidget(parent), drvDriveList(Named(new QComboBox(this), "drvDriveList", "Drives")),
       dirDirectoryList(MakeList(this, "dirDirectoryList", "Directories")),
-      filFileList(MakeList(this, "filFileList", "Saved games")) {
+      filFileList(MakeList(this, "filFileList", "Saved games")),
+      DirectoryIcon(style()->standardIcon(QStyle::SP_DirIcon)), ReadingIsSlow(new QTimer(this)) {
     auto* grid = new QGridLayout(this);
     grid->setContentsMargins(0, 0, 0, 0);
     grid->addWidget(drvDriveList, 0, 0);
@@ -54,6 +62,9 @@ FileLists::FileLists(QWidget* parent)
     dirDirectoryList->setIconSize(QSize(iconSize, iconSize));
 
     connect(&Reader, &DirectoryReader::Done, this, &FileLists::ShowContents);
+    ReadingIsSlow->setSingleShot(true);
+    ReadingIsSlow->setInterval(SlowReading);
+    connect(ReadingIsSlow, &QTimer::timeout, this, &FileLists::ShowThatItTakesTime);
     connect(drvDriveList, &QComboBox::textActivated, this, &FileLists::drvDriveList_Change);
     connect(dirDirectoryList, &QListWidget::itemDoubleClicked, this,
             &FileLists::dirDirectoryList_DblClick);
@@ -66,7 +77,7 @@ FileLists::FileLists(QWidget* parent)
 void FileLists::Load() {
     drvDriveList->clear();
     drvDriveList->addItems(MountedDrives());
-    const QString current = QDir::currentPath();
+    const QString current = CurrentDirectory();
     drvDriveList->setCurrentText(DriveOf(current, drvDriveList));
     ShowDirectory(current);
     filFileList->setFocus();
@@ -106,10 +117,19 @@ void FileLists::ShowDirectory(const QString& directory) {
 
 void FileLists::dirDirectoryList_Change() {
     filFileList->clear();
-    Reader.Read(ShownDirectory);
+    ReadingIsSlow->start();
+    // The directory of the game is a hidden one: without the way back it could not be found again.
+    Reader.Read(ShownDirectory, StepTowards(CurrentDirectory(), ShownDirectory));
+}
+
+void FileLists::ShowThatItTakesTime() {
+    auto* notice = new QListWidgetItem("Reading \u2026", filFileList);
+    notice->setFlags(Qt::NoItemFlags); // is no game to be chosen
 }
 
 void FileLists::ShowContents(const DirectoryContents& contents) {
+    ReadingIsSlow->stop();
+    filFileList->clear();
     const int depth = dirDirectoryList->count();
     const QString parent = ShownDirectory.endsWith('/') ? ShownDirectory : ShownDirectory + '/';
     for (const QString& name : contents.Directories)
@@ -119,9 +139,9 @@ void FileLists::ShowContents(const DirectoryContents& contents) {
 
 void FileLists::AddDirectory(const QString& path, const QString& name, int depth) {
     constexpr qsizetype blanksPerStep = 3;
-    auto* item = new QListWidgetItem(QString(depth * blanksPerStep, ' ') + name, dirDirectoryList);
-    item->setIcon(style()->standardIcon(QStyle::SP_DirIcon));
+    auto* item = new QListWidgetItem(DirectoryIcon, QString(depth * blanksPerStep, ' ') + name);
     item->setData(PathRole, path);
+    dirDirectoryList->addItem(item);
 }
 
 void FileLists::dirDirectoryList_DblClick(const QListWidgetItem* item) {

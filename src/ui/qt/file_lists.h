@@ -2,6 +2,7 @@
 // one before it.
 #pragma once
 
+#include <QIcon>
 #include <QWidget>
 
 #include "ui/qt/directory_reader.h"
@@ -9,6 +10,7 @@
 class QComboBox;
 class QListWidget;
 class QListWidgetItem;
+class QTimer;
 
 class FileLists : public QWidget {
     Q_OBJECT
@@ -37,11 +39,14 @@ private:
 
     void ShowDirectory(const QString& directory);
     void ShowContents(const DirectoryContents& contents);
+    void ShowThatItTakesTime();
     void AddDirectory(const QString& path, const QString& name, int depth);
 
     QComboBox* drvDriveList;
     QListWidget* dirDirectoryList;
     QListWidget* filFileList;
+    QIcon DirectoryIcon; // made once: a style reads it from its files each time it is asked
     DirectoryReader Reader;
+    QTimer* ReadingIsSlow;
     QString ShownDirectory;
 };

@@ -5,6 +5,7 @@
 #include <QCloseEvent>
 #include <QMenuBar>
 #include <QScreen>
+#include <QShortcut>
 #include <QToolBar>
 #include <QWindow>
 #include <cmath>
@@ -27,11 +28,12 @@
 
 namespace {
 
-constexpr QSize InitialSize(640, 580);
 constexpr QSize RoomForFrame(80, 80); // a centred window keeps its title and borders on the screen
 constexpr int IconSize = 24;
-constexpr int SmallestPictureSpacings = 3;
 constexpr int ResizeRestMilliseconds = 400; // without a new size: the user has let the border go
+// Of the picture, in spacings: room for two boxes, and for ten with a calm margin.
+constexpr int SmallestPicture = 3;
+constexpr int InitialPicture = 15;
 
 int ToPixels(int twips, int twipsPerPixel) {
     return static_cast<int>(std::lround(static_cast<double>(twips) / twipsPerPixel));
@@ -56,6 +58,8 @@ MainWindow::MainWindow()
     setWindowIcon(ColoredIcon(":/icons/quiblink.svg"));
     setCentralWidget(ClientArea);
     ClientArea->installEventFilter(this);
+    fraStatistics->installEventFilter(this);
+    picPlayingField->setFocus();
     BuildMenus();
     BuildToolBar();
     UseMainWindow({.ShowControls = [this] { ShowControls(); },
@@ -91,9 +95,11 @@ void MainWindow::closeEvent(QCloseEvent* event) {
 }
 
 bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
-    if (watched == ClientArea && event->type() == QEvent::Resize)
+    if (event->type() == QEvent::Resize) {
+        setMinimumSize(SizeAround(SmallestPicture)); // the frame follows the desktop's font
         LayOut();
-    if (watched == windowHandle() && event->type() == QEvent::Expose) {
+    }
+    if (event->type() == QEvent::Expose) {
         watched->removeEventFilter(this);
         TakeFrame();
     }
@@ -129,6 +135,9 @@ void MainWindow::BuildMenus() {
     AddCommand(help, Command::History, "mnuHistory", "Quibs Histor&y", "Ctrl+Y");
     help->addSeparator();
     AddCommand(help, Command::About, "mnuAbout", "A&bout", "Ctrl+B");
+
+    connect(new QShortcut(Qt::Key_F10, this), &QShortcut::activated, this,
+            [this] { menuBar()->setActiveAction(menuBar()->actions().first()); });
 }
 
 QAction* MainWindow::AddCommand(QMenu* menu, Command command, const char* objectName,
@@ -178,9 +187,8 @@ void MainWindow::BuildToolBar() {
 }
 
 void MainWindow::Place(WindowPlace place) {
-    setMinimumSize(fraStatistics->width() + ToPixels(FrameMargin, Game.TwipsPerPixelX),
-                   SmallestHeight());
-    resize(InitialSize.boundedTo(screen()->availableSize() - RoomForFrame));
+    setMinimumSize(SizeAround(SmallestPicture));
+    resize(SizeAround(InitialPicture).boundedTo(screen()->availableSize() - RoomForFrame));
     if (place == WindowPlace::Centred) {
         CentreOnScreen(*this);
     } else {
@@ -197,7 +205,10 @@ void MainWindow::TakeFrame() {
 }
 
 void MainWindow::FollowScreens() {
-    const auto keep = [this] { KeepOnScreen(*this); };
+    const auto keep = [this] {
+        fraStatistics->TakeSize();
+        KeepOnScreen(*this);
+    };
     const auto follow = [this, keep](QScreen* screen) {
         connect(screen, &QScreen::availableGeometryChanged, this, keep);
     };
@@ -209,10 +220,11 @@ void MainWindow::FollowScreens() {
     connect(qGuiApp, &QGuiApplication::screenRemoved, this, keep, Qt::QueuedConnection);
 }
 
-int MainWindow::SmallestHeight() const {
-    const int picture = SmallestPictureSpacings * PixelsBetweenPoints;
-    return menuBar()->sizeHint().height() + tbrToolBar->sizeHint().height() + picture +
-           fraStatistics->height() + ToPixels(BottomMargin, Game.TwipsPerPixelY) + 1;
+QSize MainWindow::SizeAround(int pictureSpacings) const {
+    const int picture = pictureSpacings * PixelsBetweenPoints;
+    return {fraStatistics->width() + ToPixels(FrameMargin, Game.TwipsPerPixelX),
+            menuBar()->sizeHint().height() + tbrToolBar->sizeHint().height() + picture +
+                fraStatistics->height() + ToPixels(BottomMargin, Game.TwipsPerPixelY) + 1};
 }
 
 void MainWindow::LayOut() {

@@ -43,7 +43,9 @@ private:
     // Now that the desktop has put a title bar and borders around the window.
     void TakeFrame();
     void FollowScreens();
-    int SmallestHeight() const;
+    // Of a window as wide as the status frame asks for, around a picture of so many spacings'
+    // height.
+    QSize SizeAround(int pictureSpacings) const;
     void LayOut();
     void ShowControls();
 

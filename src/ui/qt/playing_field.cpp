@@ -1,8 +1,11 @@
 #include "ui/qt/playing_field.h"
 
 #include <QApplication>
+#include <QCursor>
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <cstdlib>
 #include <utility>
 
 #include "core/state/game_state.h"
@@ -11,14 +14,40 @@
 #include "ui/commands.h"
 #include "ui/qt/accessible_field.h"
 
+namespace {
+
+std::optional<FieldKey> FieldKeyOf(const QKeyEvent& event) {
+    if ((event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) != 0)
+        return std::nullopt;
+    switch (event.key()) {
+    case Qt::Key_Left:
+        return FieldKey::Left;
+    case Qt::Key_Up:
+        return FieldKey::Up;
+    case Qt::Key_Right:
+        return FieldKey::Right;
+    case Qt::Key_Down:
+        return FieldKey::Down;
+    case Qt::Key_Space:
+        return FieldKey::Turn;
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        return FieldKey::Draw;
+    default:
+        return std::nullopt;
+    }
+}
+
+} // namespace
+
 PlayingField::PlayingField(QWidget* parent) : QWidget(parent) {
+    MakeFieldAccessible(); // before a name is set, which a screen reader asks for at once
     setObjectName("picPlayingField");
     setAccessibleName("Playing field");
     setAccessibleDescription(
         "Point at the gap between two points and press to draw a line; or the arrow keys move the "
         "ghost line, Space turns it, Return draws it.");
     setFocusPolicy(Qt::StrongFocus);
-    MakeFieldAccessible();
     setAttribute(Qt::WA_OpaquePaintEvent);
     setMouseTracking(true);
     TheFieldPicture.WhenChanged = [this](const QRect& changed) { update(changed); };
@@ -42,8 +71,28 @@ void PlayingField::SayWhatWaits() {
 
 void PlayingField::focusInEvent(QFocusEvent* event) {
     QWidget::focusInEvent(event);
+    if (event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason)
+        FocusIsMarked = true;
     // After what the toolkit itself tells about the focus, which would be heard instead.
     QMetaObject::invokeMethod(this, &PlayingField::SayWhatWaits, Qt::QueuedConnection);
+}
+
+void PlayingField::MarkFocus(bool isMarked) {
+    if (FocusIsMarked == isMarked)
+        return;
+    FocusIsMarked = isMarked;
+    update();
+}
+
+void PlayingField::PaintFocusFrame(QPainter& painter) const {
+    constexpr int leastContrast = 64;
+    const int background = qGray(ToQColor(frmQuibsMain.picPlayingField.BackColor).rgb());
+    QColor color = palette().color(QPalette::Highlight);
+    if (std::abs(qGray(color.rgb()) - background) < leastContrast)
+        color = background < 128 ? Qt::white : Qt::black;
+    constexpr qreal width = 2;
+    painter.setPen(QPen(color, width, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+    painter.drawRect(QRectF(rect()).adjusted(width / 2, width / 2, -width / 2, -width / 2));
 }
 
 void PlayingField::paintEvent(QPaintEvent* /*event*/) {
@@ -56,13 +105,32 @@ void PlayingField::paintEvent(QPaintEvent* /*event*/) {
     painter.setRenderHint(QPainter::SmoothPixmapTransform, ratio != devicePixelRatioF());
     for (const QImage* layer : TheFieldPicture.Layers())
         painter.drawImage(QRectF(0, 0, layer->width() / ratio, layer->height() / ratio), *layer);
+    if (FocusIsMarked && hasFocus())
+        PaintFocusFrame(painter);
+}
+
+void PlayingField::keyPressEvent(QKeyEvent* event) {
+    const std::optional<FieldKey> key = FieldKeyOf(*event);
+    if (key || event->key() == Qt::Key_Tab || event->key() == Qt::Key_Backtab)
+        MarkFocus(true);
+    if (!key)
+        return QWidget::keyPressEvent(event);
+    // A held Return would draw line after line, or draw what it first agreed to in a dialog.
+    if (key == FieldKey::Draw && event->isAutoRepeat())
+        return;
+    StillPointer = QCursor::pos();
+    RunGuarded([key] { picPlayingField_KeyDown(*key); });
 }
 
 void PlayingField::mousePressEvent(QMouseEvent* /*event*/) {
+    MarkFocus(false);
     RunGuarded(picPlayingField_MouseDown);
 }
 
 void PlayingField::mouseMoveEvent(QMouseEvent* event) {
+    if (event->globalPosition().toPoint() == StillPointer)
+        return;
+    StillPointer.reset();
     const QPointF twips(event->position().x() * Game.TwipsPerPixelX,
                         event->position().y() * Game.TwipsPerPixelY);
     RunGuarded([twips] {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QWidget>
+#include <optional>
 
 class PlayingField : public QWidget {
     Q_OBJECT
@@ -22,12 +23,17 @@ signals:
 
 protected:
     void focusInEvent(QFocusEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
 
 private:
     void SayWhatWaits();
+    void PaintFocusFrame(QPainter& painter) const;
+    void MarkFocus(bool isMarked);
 
     QString Unsaid;
+    bool FocusIsMarked = false;         // for who uses the keyboard
+    std::optional<QPoint> StillPointer; // on the screen, as long as it lies where keys found it
 };

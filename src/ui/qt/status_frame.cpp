@@ -1,33 +1,34 @@
 #include "ui/qt/status_frame.h"
 
+#include <QEvent>
 #include <QGridLayout>
-#include <QHBoxLayout>
-#include <QLabel>
-#include <QLineEdit>
-#include <QTextDocument>
+#include <QPainter>
+#include <QScreen>
+#include <algorithm>
 
 #include "platform/controls.h"
+#include "ui/qt/status_label.h"
 #include "ui/qt/swatch.h"
 
 namespace {
 
-constexpr int FrameWidth = 540; // pixels
-enum Column { SwatchColumn, PlayerColumn, CounterColumn };
-constexpr int TurnRow = 2;
+constexpr int SmallestWidth = 540; // pixels, as the lengths below
+constexpr int RoomBeside = 32;     // for the window's margins and borders
+constexpr int Margin = 14;
+constexpr int RoomBetweenColumns = 10;
+constexpr int BandMargin = 6; // beside the marked line
+constexpr int BarWidth = 4;
+constexpr float BandOpacity = 0.14F;
 
-void ShowText(QLineEdit* box, const TextBox& control) {
-    const QString text = QString::fromStdString(control.Text);
-    if (box->text() == text)
-        return;
-    box->setText(text);
-    box->setCursorPosition(0); // a long name shows from its start, the rest in a tool-tip
-    const bool isWhole = box->fontMetrics().horizontalAdvance(text) < box->width();
-    box->setToolTip(isWhole ? QString() : Qt::convertFromPlainText(text));
-}
+constexpr const char* WidestPlayer = "Guardian: 00000   Intelligent";
+constexpr const char* WidestCounter = "Boxes: 00000 of 00000";
 
-void ShowCaption(QLabel* label, const Label& control) {
-    const QString caption = QString::fromStdString(control.Caption);
-    label->setText(label->fontMetrics().elidedText(caption, Qt::ElideRight, label->width()));
+enum Column { SwatchColumn, PlayerColumn, GapColumn, CounterColumn };
+enum Row { FirstRow, SecondRow, TurnRow };
+
+void ShowCaption(StatusLabel* label, const Label& control) {
+    label->ShowText(control.Caption, control.NameLength);
+    label->setVisible(!control.Caption.empty());
 }
 
 } // namespace
@@ -38,56 +39,74 @@ StatusFrame::StatusFrame(QWidget* parent)
       shpPlayer1Active(new Swatch("shpPlayer1Active", "Player 1 is to move", this)),
       shpPlayer2Active(new Swatch("shpPlayer2Active", "Player 2 is to move", this)),
       shpPlayer3Active(new Swatch("shpPlayer3Active", "Game over", this)),
-      shpPlayer4Active(new Swatch("shpPlayer4Active", "Game over", this)) {
+      shpPlayer4Active(new Swatch("shpPlayer4Active", "Game over", this)),
+      txtPlayer1Status(new StatusLabel("txtPlayer1Status", WidestPlayer, this)),
+      txtPlayer2Status(new StatusLabel("txtPlayer2Status", WidestPlayer, this)),
+      txtBoxesStatus(new StatusLabel("txtBoxesStatus", WidestCounter, this)),
+      txtLinesStatus(new StatusLabel("txtLinesStatus", WidestCounter, this)),
+      lblPlayer1Active(new StatusLabel("lblPlayer1Active", "", this)),
+      lblPlayer2Active(new StatusLabel("lblPlayer2Active", "", this)) {
     setObjectName("fraStatistics");
     auto* grid = new QGridLayout(this);
-    grid->setContentsMargins(10, 8, 10, 8);
+    grid->setContentsMargins(Margin, 8, Margin, 6);
     grid->setHorizontalSpacing(10);
-    grid->setVerticalSpacing(6);
-    grid->setColumnStretch(PlayerColumn, 3);
-    grid->setColumnStretch(CounterColumn, 2);
-    grid->addWidget(shpPlayer1Status, 0, SwatchColumn);
-    grid->addWidget(shpPlayer2Status, 1, SwatchColumn);
-    txtPlayer1Status = AddTextBox("txtPlayer1Status", "Player 1", 0, PlayerColumn);
-    txtPlayer2Status = AddTextBox("txtPlayer2Status", "Player 2", 1, PlayerColumn);
-    txtBoxesStatus = AddTextBox("txtBoxesStatus", "Boxes claimed", 0, CounterColumn);
-    txtLinesStatus = AddTextBox("txtLinesStatus", "Lines drawn", 1, CounterColumn);
+    grid->setVerticalSpacing(4);
+    grid->setColumnStretch(PlayerColumn, 1);
+    grid->setColumnMinimumWidth(GapColumn, RoomBetweenColumns);
+    grid->addWidget(shpPlayer1Status, FirstRow, SwatchColumn);
+    grid->addWidget(shpPlayer2Status, SecondRow, SwatchColumn);
+    grid->addWidget(txtPlayer1Status, FirstRow, PlayerColumn);
+    grid->addWidget(txtPlayer2Status, SecondRow, PlayerColumn);
+    grid->addWidget(txtBoxesStatus, FirstRow, CounterColumn);
+    grid->addWidget(txtLinesStatus, SecondRow, CounterColumn);
 
+    // Hidden markers keep their places, so that the captions stand still while they blink.
     auto* turn = new QHBoxLayout;
-    turn->setSpacing(10);
-    lblPlayer1Active = AddCaption("lblPlayer1Active", turn, shpPlayer1Active, shpPlayer3Active);
-    turn->addSpacing(10);
-    lblPlayer2Active = AddCaption("lblPlayer2Active", turn, shpPlayer2Active, shpPlayer4Active);
+    turn->setSpacing(14);
+    turn->addStretch();
+    for (QWidget* part :
+         std::initializer_list<QWidget*>{shpPlayer3Active, shpPlayer1Active, lblPlayer1Active,
+                                         lblPlayer2Active, shpPlayer2Active, shpPlayer4Active})
+        turn->addWidget(part);
+    turn->addStretch();
     grid->addLayout(turn, TurnRow, 0, 1, CounterColumn + 1);
-    setFixedSize(FrameWidth, sizeHint().height());
-}
-
-QLineEdit* StatusFrame::AddTextBox(const char* objectName, const char* accessibleName, int row,
-                                   int column) {
-    auto* box = new QLineEdit(this);
-    box->setObjectName(objectName);
-    box->setAccessibleName(accessibleName);
-    box->setReadOnly(true);
-    box->setFocusPolicy(Qt::NoFocus);
-    box->setContextMenuPolicy(Qt::NoContextMenu);
-    static_cast<QGridLayout*>(layout())->addWidget(box, row, column);
-    return box;
-}
-
-QLabel* StatusFrame::AddCaption(const char* objectName, QHBoxLayout* row, Swatch* before,
-                                Swatch* after) {
-    auto* caption = new QLabel(this);
-    caption->setObjectName(objectName);
-    caption->setTextFormat(Qt::PlainText);
-    caption->setAlignment(Qt::AlignCenter);
-    caption->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
-    QFont bold = caption->font();
+    QFont bold;
     bold.setBold(true);
-    caption->setFont(bold);
-    row->addWidget(before);
-    row->addWidget(caption, 1);
-    row->addWidget(after);
-    return caption;
+    lblPlayer1Active->setFont(bold);
+    lblPlayer2Active->setFont(bold);
+    TakeSize();
+}
+
+void StatusFrame::TakeSize() {
+    auto* grid = static_cast<QGridLayout*>(layout());
+    const int turnHeight = lblPlayer1Active->sizeHint().height(); // also when no caption shows
+    if (grid->rowMinimumHeight(TurnRow) != turnHeight)
+        grid->setRowMinimumHeight(TurnRow, turnHeight);
+    const QSize needed = grid->totalMinimumSize();
+    const int most = screen()->availableSize().width() - RoomBeside;
+    setFixedSize(std::min(std::max(SmallestWidth, needed.width()), most), needed.height());
+}
+
+bool StatusFrame::event(QEvent* event) {
+    const bool isHandled = QFrame::event(event);
+    if (event->type() == QEvent::LayoutRequest)
+        TakeSize();
+    return isHandled;
+}
+
+void StatusFrame::paintEvent(QPaintEvent* /*event*/) {
+    const int marked = frmQuibsMain.fraStatistics.MarkedPlayer;
+    if (marked == 0)
+        return;
+    const QWidget* swatch = marked == 1 ? shpPlayer1Status : shpPlayer2Status;
+    const QWidget* line = marked == 1 ? txtPlayer1Status : txtPlayer2Status;
+    const QRect band =
+        (swatch->geometry() | line->geometry()).adjusted(-BandMargin, 0, BandMargin, 0);
+    QPainter painter(this);
+    QColor shade = palette().color(QPalette::WindowText);
+    painter.fillRect(band.left() - BarWidth, band.top(), BarWidth, band.height(), shade);
+    shade.setAlphaF(BandOpacity);
+    painter.fillRect(band, shade);
 }
 
 void StatusFrame::ShowControls() {
@@ -97,10 +116,13 @@ void StatusFrame::ShowControls() {
     shpPlayer2Active->Show(frmQuibsMain.shpPlayer2Active);
     shpPlayer3Active->Show(frmQuibsMain.shpPlayer3Active);
     shpPlayer4Active->Show(frmQuibsMain.shpPlayer4Active);
-    ShowText(txtPlayer1Status, frmQuibsMain.txtPlayer1Status);
-    ShowText(txtPlayer2Status, frmQuibsMain.txtPlayer2Status);
-    ShowText(txtBoxesStatus, frmQuibsMain.txtBoxesStatus);
-    ShowText(txtLinesStatus, frmQuibsMain.txtLinesStatus);
-    ShowCaption(lblPlayer1Active, frmQuibsMain.lblPlayer1Active);
-    ShowCaption(lblPlayer2Active, frmQuibsMain.lblPlayer2Active);
+    const MainWindowControls& controls = frmQuibsMain;
+    for (const auto& [label, text] : {std::pair(txtPlayer1Status, controls.txtPlayer1Status),
+                                      {txtPlayer2Status, controls.txtPlayer2Status},
+                                      {txtBoxesStatus, controls.txtBoxesStatus},
+                                      {txtLinesStatus, controls.txtLinesStatus}})
+        label->ShowText(text.Text, text.NameLength);
+    ShowCaption(lblPlayer1Active, controls.lblPlayer1Active);
+    ShowCaption(lblPlayer2Active, controls.lblPlayer2Active);
+    update();
 }

@@ -3,10 +3,11 @@
 
 #include <QFrame>
 
-class QLabel;
-class QLineEdit;
+class StatusLabel;
 class Swatch;
 
+// As wide as its widest texts in the desktop's font, and never narrower than a good deal. It has a
+// fixed size, which changes with the font.
 class StatusFrame : public QFrame {
     Q_OBJECT
 
@@ -15,21 +16,24 @@ public:
 
     void ShowControls();
 
-private:
-    QLineEdit* AddTextBox(const char* objectName, const char* accessibleName, int row, int column);
-    QLabel* AddCaption(const char* objectName, class QHBoxLayout* row, Swatch* before,
-                       Swatch* after);
+    // To be called when the screen has changed; what changes the texts' size does it by itself.
+    void TakeSize();
 
+protected:
+    bool event(QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+
+private:
     Swatch* shpPlayer1Status;
     Swatch* shpPlayer2Status;
     Swatch* shpPlayer1Active;
     Swatch* shpPlayer2Active;
     Swatch* shpPlayer3Active;
     Swatch* shpPlayer4Active;
-    QLineEdit* txtPlayer1Status;
-    QLineEdit* txtPlayer2Status;
-    QLineEdit* txtBoxesStatus;
-    QLineEdit* txtLinesStatus;
-    QLabel* lblPlayer1Active;
-    QLabel* lblPlayer2Active;
+    StatusLabel* txtPlayer1Status;
+    StatusLabel* txtPlayer2Status;
+    StatusLabel* txtBoxesStatus;
+    StatusLabel* txtLinesStatus;
+    StatusLabel* lblPlayer1Active;
+    StatusLabel* lblPlayer2Active;
 };

@@ -23,6 +23,11 @@ void Swatch::Show(const Shape& shape) {
     update();
 }
 
+QSize Swatch::sizeHint() const {
+    const int height = fontMetrics().height();
+    return {height * 5 / 4, height};
+}
+
 void Swatch::paintEvent(QPaintEvent* /*event*/) {
     if (!Shown.Visible)
         return;

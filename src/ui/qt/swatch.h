@@ -17,7 +17,8 @@ public:
     // A hidden swatch keeps its place.
     void Show(const Shape& shape);
 
-    QSize sizeHint() const override { return {22, 16}; }
+    // As high as a line of text.
+    QSize sizeHint() const override;
 
 protected:
     void paintEvent(QPaintEvent* event) override;
