@@ -14,7 +14,7 @@ std::vector<int> operator+(std::vector<int> lines, const std::vector<int>& more)
 class CheatCapture : public GameTest {};
 
 TEST_F(CheatCapture, TakesOrDeclinesAsWorkedOutByHand) {
-    constexpr int AnySafeLine = -1;
+    constexpr int Any = -1;                                    // undrawn line
     const std::vector<int> row{1, 2, 3, 4, 5, 6, 7, 8, 9, 10}; // walls in five boxes side by side
     // A ring of eight boxes round a complete one, at the left of 4 by 3 boxes.
     const std::vector<int> ring{1, 2, 3, 13, 14, 15, 17, 18, 19, 26, 27, 28, 6, 10, 21, 24, 20};
@@ -41,12 +41,7 @@ TEST_F(CheatCapture, TakesOrDeclinesAsWorkedOutByHand) {
         {"a loop of a longer game", 4, 3, ring, {5, 9, 22, 25}, 7},
         {"a loop that ends the game", 4, 3, rest + ring, {5, 9, 22, 25, 11, 7}, 23},
         {"a short walk through a junction", 4, 2, junction, {5, 15, 17, 7, 18, 20}, 12},
-        {"a chain that was open before",
-         3,
-         3,
-         {1, 2, 3, 4, 5, 6, 13, 12},
-         {16, 19, 22},
-         AnySafeLine},
+        {"a chain that was open before", 3, 3, {1, 2, 3, 4, 5, 6, 13, 12}, {16, 19, 22}, Any},
         {"first the older chain, then the new one", 3, 3, two, {21, 18, 15, 16}, 22},
     };
     for (const auto& c : cases) {
@@ -60,7 +55,7 @@ TEST_F(CheatCapture, TakesOrDeclinesAsWorkedOutByHand) {
         };
         ChooseComputerMove();
         EXPECT_EQ(taken, c.Taken) << c.Story;
-        EXPECT_TRUE(Game.ChosenLine == c.Chosen || c.Chosen == AnySafeLine) << c.Story;
+        EXPECT_TRUE(Game.ChosenLine == c.Chosen || c.Chosen == Any) << c.Story;
         EXPECT_EQ(Game.Lines.at(Game.ChosenLine).Drawn, 0) << c.Story;
         EXPECT_TRUE(BoardIsSound()) << c.Story;
     }

@@ -33,10 +33,9 @@ std::string Captions() {
 
 // The sum of 1, 2, 4 and 8 for the markers 1 to 4.
 int VisibleMarkers() {
-    return (frmQuibsMain.shpPlayer1Active.Visible ? 1 : 0) +
-           (frmQuibsMain.shpPlayer2Active.Visible ? 2 : 0) +
-           (frmQuibsMain.shpPlayer3Active.Visible ? 4 : 0) +
-           (frmQuibsMain.shpPlayer4Active.Visible ? 8 : 0);
+    const MainWindowControls& form = frmQuibsMain;
+    return form.shpPlayer1Active.Visible + 2 * form.shpPlayer2Active.Visible +
+           4 * form.shpPlayer3Active.Visible + 8 * form.shpPlayer4Active.Visible;
 }
 
 void ExpectNoGameIsRunning() {

@@ -81,21 +81,15 @@ void ShowGamePaused() {
     ShowMarkers(MarkerPair::First, false);
 }
 
-<<<<<<< HEAD
-void ShowCaptions(const Label& first, const Label& second, int markedPlayer) {
-    frmQuibsMain.lblPlayer1Active = first;
-    frmQuibsMain.lblPlayer2Active = second;
-    frmQuibsMain.fraStatistics.MarkedPlayer = markedPlayer;
-=======
 std::string OutcomeText() {
     const std::string& winner = frmQuibsMain.lblPlayer2Active.Caption;
     return frmQuibsMain.lblPlayer1Active.Caption + (winner.empty() ? "" : " " + winner);
 }
 
-void ShowCaptions(const std::string& first, const std::string& second) {
-    frmQuibsMain.lblPlayer1Active.Caption = first;
-    frmQuibsMain.lblPlayer2Active.Caption = second;
->>>>>>> main
+void ShowCaptions(const Label& first, const Label& second, int markedPlayer) {
+    frmQuibsMain.lblPlayer1Active = first;
+    frmQuibsMain.lblPlayer2Active = second;
+    frmQuibsMain.fraStatistics.MarkedPlayer = markedPlayer;
 }
 
 void ShowMarkers(MarkerPair pair, bool visible) {

@@ -80,21 +80,6 @@ void WriteTable(std::vector<Row>& table, int lastRow, Visit write) {
         VisitRow(table.at(static_cast<std::size_t>(row)), write);
 }
 
-// The columns and rows are those on the field; the settings may be meant for the next game.
-std::string GameAsText() {
-    std::string text;
-    const auto write = [&text](const auto& value) { AppendValue(text, value); };
-    Grid grid{Game.PointSpacingX, Game.PointSpacingY, ToInteger(FieldColumns()),
-              ToInteger(FieldRows())};
-    VisitGrid(grid, write);
-    VisitPlayersAndEdges(write);
-    write(Game.BoxCount);
-    WriteTable(Game.Boxes, Game.BoxCount, write);
-    VisitLineCounts(write);
-    WriteTable(Game.Lines, Game.LineCount, write);
-    return text;
-}
-
 constexpr auto Read = [](auto& value) { ReadValue(value); };
 
 // Row 0 stands for none, whatever the file holds there.
@@ -118,23 +103,6 @@ void ForgetLines() {
     Game.ComputerGhostLine = 0;
     Game.ChosenLine = 0;
     Game.Told = {};
-}
-
-void ReadGame(const Grid& grid) {
-    ForgetLines();
-    Game.PointSpacingX = grid.SpacingX;
-    Game.PointSpacingY = grid.SpacingY;
-    Game.GridColumns = grid.Columns;
-    Game.GridRows = grid.Rows;
-    VisitPlayersAndEdges(Read);
-    Read(Game.BoxCount);
-    RequireRows(Game.BoxCount);
-    SizeBoxTables();
-    ReadTable(Game.Boxes);
-    VisitLineCounts(Read);
-    RequireRows(Game.LineCount);
-    SizeLineTables();
-    ReadTable(Game.Lines);
 }
 
 void ShowLoadedGame() {
@@ -163,6 +131,11 @@ bool FitsOnPicture(const Grid& grid) {
            grid.Rows <= BoxesThatFit(PictureHeight(), grid.SpacingY);
 }
 
+void RefuseGame(const std::string& path) {
+    ShowMessageBox("Window size is not large enough for:\r\n\n" + path, "Quibs Game Load Error",
+                   MessageIcon::Exclamation, MessageButtons::Ok);
+}
+
 bool MayReplace(const std::string& path) {
     return ShowMessageBox(path + " already exists.\r\n\nDo you want to replace it?",
                           "Quibs Game Save Error", MessageIcon::Exclamation,
@@ -189,6 +162,42 @@ bool IsGameExtension(std::string extension) {
 
 } // namespace
 
+std::string GameAsText() {
+    std::string text;
+    const auto write = [&text](const auto& value) { AppendValue(text, value); };
+    // Those on the field; the settings may be meant for the next game.
+    Grid grid{Game.PointSpacingX, Game.PointSpacingY, ToInteger(FieldColumns()),
+              ToInteger(FieldRows())};
+    VisitGrid(grid, write);
+    VisitPlayersAndEdges(write);
+    write(Game.BoxCount);
+    WriteTable(Game.Boxes, Game.BoxCount, write);
+    VisitLineCounts(write);
+    WriteTable(Game.Lines, Game.LineCount, write);
+    return text;
+}
+
+bool ReadGame() {
+    const Grid grid = ReadGrid();
+    if (!FitsOnPicture(grid))
+        return false;
+    ForgetLines();
+    Game.PointSpacingX = grid.SpacingX;
+    Game.PointSpacingY = grid.SpacingY;
+    Game.GridColumns = grid.Columns;
+    Game.GridRows = grid.Rows;
+    VisitPlayersAndEdges(Read);
+    Read(Game.BoxCount);
+    RequireRows(Game.BoxCount);
+    SizeBoxTables();
+    ReadTable(Game.Boxes);
+    VisitLineCounts(Read);
+    RequireRows(Game.LineCount);
+    SizeLineTables();
+    ReadTable(Game.Lines);
+    return true;
+}
+
 void SaveGame(const std::string& path) {
     if (FileExists(path) && !MayReplace(path))
         return;
@@ -202,16 +211,12 @@ void SaveGame(const std::string& path) {
 void LoadGame(const std::string& path) {
     try {
         OpenForInput(path);
-        const Grid grid = ReadGrid();
-        if (!FitsOnPicture(grid)) {
-            CloseChannel();
-            ShowMessageBox("Window size is not large enough for:\r\n\n" + path,
-                           "Quibs Game Load Error", MessageIcon::Exclamation, MessageButtons::Ok);
-            return;
-        }
-        ReadGame(grid);
+        const bool isTaken = ReadGame();
         CloseChannel();
-        ShowLoadedGame();
+        if (isTaken)
+            ShowLoadedGame();
+        else
+            RefuseGame(path);
     } catch (const std::exception&) {
         // Told to nobody; the file channel may stay taken.
     }

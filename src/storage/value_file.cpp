@@ -27,8 +27,8 @@ struct FileChannel {
 
 FileChannel channel1;
 
-void TakeChannel() {
-    channel1 = {true, {}, 0};
+void TakeChannel(std::string text = {}) {
+    channel1 = {true, std::move(text), 0};
 }
 
 void RequireFreeChannel() {
@@ -98,8 +98,12 @@ void OpenForInput(const std::string& path) {
     std::optional<std::string> text = ReadRegularFile(path, LongestFile);
     if (!text)
         throw std::runtime_error("a file cannot be opened");
-    TakeChannel();
-    channel1.Text = *std::move(text);
+    TakeChannel(*std::move(text));
+}
+
+void OpenTextForInput(std::string text) {
+    RequireFreeChannel();
+    TakeChannel(std::move(text));
 }
 
 void ReadValue(Integer& value) {

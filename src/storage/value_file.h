@@ -12,6 +12,9 @@
 // nothing, when the channel is taken or there is no such file that may be read.
 void OpenForInput(const std::string& path);
 
+// Takes the channel for reading `text`, as if a file held it. Throws likewise when it is taken.
+void OpenTextForInput(std::string text);
+
 // The next value of the file that is being read; a value ends at a comma or a line end of any kind.
 // Throw std::runtime_error when the file has ended, a number is none or does not fit, or a text is
 // longer than any name.

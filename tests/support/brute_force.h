@@ -35,16 +35,15 @@ public:
     int LineCount() const { return static_cast<int>(BoxesOfLine.size()); }
 
     bool IsSafe(LineSet drawn, int line) const {
-        return std::none_of(BoxesOfLine.at(line).begin(), BoxesOfLine.at(line).end(),
-                            [&](int box) { return box >= 0 && Sides(drawn, box) >= 2; });
+        const auto [first, second] = BoxesOfLine.at(line);
+        return (first < 0 || Sides(drawn, first) < 2) && (second < 0 || Sides(drawn, second) < 2);
     }
 
     bool IsOpeningOver(LineSet drawn) const {
-        int boxes = 0;
-        for (const int line : OpenLines(drawn))
-            if (IsSafe(drawn, line))
-                return false;
-        return TakeAll(drawn, boxes) == 0 && std::popcount(drawn) < LineCount();
+        const std::vector<int> open = OpenLines(drawn);
+        return !open.empty() && TakeAll(drawn) == drawn &&
+               std::none_of(open.begin(), open.end(),
+                            [&](int line) { return IsSafe(drawn, line); });
     }
 
     // Kind 1 has only the smallest rows.
@@ -52,10 +51,9 @@ public:
         std::map<LineSet, int> sizes; // a row is known by its lines
         int smallest = 1000;
         for (const int line : OpenLines(drawn)) {
-            int boxes = 0;
-            const LineSet taken = TakeAll(drawn | Bit(line), boxes);
-            sizes[taken | Bit(line)] = boxes;
-            smallest = std::min(smallest, boxes);
+            const LineSet taken = TakeAll(drawn | Bit(line));
+            const int size = sizes[taken & ~drawn] = BoxesTaken(drawn, taken);
+            smallest = std::min(smallest, size);
         }
         std::vector<OracleRow> rows;
         for (const auto& [row, size] : sizes) {
@@ -94,35 +92,26 @@ private:
         return first >= 0 && second >= 0 && Sides(drawn, first) == 2 && Sides(drawn, second) == 2;
     }
 
-    // Of a box with one.
-    int OpenSide(LineSet drawn, int box) const {
-        return std::countr_zero(SidesOfBox.at(box) & ~drawn);
-    }
-
-    int BoxesTaken(LineSet drawn, int line) const {
+    int BoxesTaken(LineSet before, LineSet after) const {
         return static_cast<int>(
-            std::count_if(BoxesOfLine.at(line).begin(), BoxesOfLine.at(line).end(),
-                          [&](int box) { return box >= 0 && Sides(drawn, box) == 3; }));
+            std::count_if(SidesOfBox.begin(), SidesOfBox.end(), [&](LineSet sides) {
+                return (sides & ~before) != 0 && (sides & ~after) == 0;
+            }));
     }
 
-    // Draws all that can be taken and returns those lines.
-    LineSet TakeAll(LineSet drawn, int& boxes) const {
-        const LineSet before = drawn;
-        for (int box = 0; box < static_cast<int>(SidesOfBox.size()); ++box)
-            if (Sides(drawn, box) == 3) {
-                const int line = OpenSide(drawn, box);
-                boxes += BoxesTaken(drawn, line);
-                drawn |= Bit(line);
-                box = -1;
-            }
-        return drawn & ~before;
+    // The board when all that can be taken is.
+    LineSet TakeAll(LineSet drawn) const {
+        for (std::size_t box = 0; box < SidesOfBox.size(); ++box)
+            if (Sides(drawn, static_cast<int>(box)) == 3)
+                return TakeAll(drawn | SidesOfBox.at(box));
+        return drawn;
     }
 
     // The lines that take box after box, starting with `box` beside `line`.
     std::vector<int> Walk(LineSet& drawn, int box, int line) const {
         std::vector<int> lines;
         while (box >= 0 && Sides(drawn, box) == 3) {
-            line = OpenSide(drawn, box);
+            line = std::countr_zero(SidesOfBox.at(box) & ~drawn);
             lines.push_back(line);
             drawn |= Bit(line);
             const auto [first, second] = BoxesOfLine.at(line);
@@ -159,14 +148,13 @@ private:
 
     // The margin still to come for the player to move.
     double Value(LineSet drawn, int last, Kinds kinds) {
-        int boxes = 0;
-        const LineSet taken = TakeAll(drawn, boxes);
-        if (taken == 0)
+        const LineSet all = TakeAll(drawn);
+        if (all == drawn)
             return ValueOfGiving(drawn, kinds);
         if (kinds.first == 3) {
             double margin = 0;
             for (const int line : CheatLines(drawn, last)) {
-                const int gained = BoxesTaken(drawn, line);
+                const int gained = BoxesTaken(drawn, drawn | Bit(line));
                 if (gained == 0)
                     return margin + ValueAfter(drawn, line, kinds);
                 margin += gained;
@@ -174,8 +162,8 @@ private:
             }
             return margin + Value(drawn, last, kinds);
         }
-        const double all = boxes + ValueOfGiving(drawn | taken, kinds);
-        return kinds == Kinds{0, 3} ? std::max(all, PersonsBestTaking(drawn, last, kinds)) : all;
+        const double whole = BoxesTaken(drawn, all) + ValueOfGiving(all, kinds);
+        return kinds == Kinds{0, 3} ? std::max(whole, PersonsBestTaking(drawn, kinds)) : whole;
     }
 
     double ValueAfter(LineSet drawn, int line, Kinds kinds) {
@@ -184,22 +172,14 @@ private:
 
     // Takes what can be taken, in any order, and at some point draws another line among those that
     // were given, so that nothing but pairs of boxes is left to take.
-    double PersonsBestTaking(LineSet drawn, int last, Kinds kinds) {
-        int boxes = 0;
-        const LineSet given = TakeAll(drawn, boxes);
-        double best = -1000;
-        for (const int line : OpenLines(~given)) {
-            if (const int gained = BoxesTaken(drawn, line); gained > 0) {
-                const LineSet next = drawn | Bit(line);
-                int left = 0;
-                best = std::max(best, gained + (TakeAll(next, left) != 0
-                                                    ? PersonsBestTaking(next, last, kinds)
-                                                    : ValueOfGiving(next, kinds)));
-                continue;
-            }
-            int left = 0;
-            const int lines = std::popcount(TakeAll(drawn | Bit(line), left));
-            if (left == 2 * lines)
+    double PersonsBestTaking(LineSet drawn, Kinds kinds) {
+        double best = TakeAll(drawn) == drawn ? ValueOfGiving(drawn, kinds) : -1000;
+        for (const int line : OpenLines(~TakeAll(drawn) | drawn)) {
+            const LineSet next = drawn | Bit(line);
+            const LineSet left = TakeAll(next);
+            if (const int gained = BoxesTaken(drawn, next); gained > 0)
+                best = std::max(best, gained + PersonsBestTaking(next, kinds));
+            else if (BoxesTaken(next, left) == 2 * std::popcount(left & ~next))
                 best = std::max(best, ValueAfter(drawn, line, kinds));
         }
         return best;

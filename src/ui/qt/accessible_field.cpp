@@ -30,6 +30,7 @@ public:
     QAccessible::State state() const override {
         QAccessible::State state = Field->state();
         state.focused = state.focused && IsLast;
+        state.invisible = state.invisible || !IsLast;
         return state;
     }
     QString text(QAccessible::Text kind) const override {

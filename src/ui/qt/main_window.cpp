@@ -30,10 +30,10 @@ namespace {
 
 constexpr QSize RoomForFrame(80, 80); // a centred window keeps its title and borders on the screen
 constexpr int IconSize = 24;
-constexpr int ResizeRestMilliseconds = 400; // without a new size: the user has let the border go
 // Of the picture, in spacings: room for two boxes, and for ten with a calm margin.
 constexpr int SmallestPicture = 3;
 constexpr int InitialPicture = 15;
+constexpr int ResizeRestMilliseconds = 400; // without a new size: the user has let the border go
 
 int ToPixels(int twips, int twipsPerPixel) {
     return static_cast<int>(std::lround(static_cast<double>(twips) / twipsPerPixel));

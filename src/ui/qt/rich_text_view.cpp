@@ -48,6 +48,8 @@ QTextCharFormat ToCharFormat(const RichRunFormat& format) {
     characters.setFontWeight(format.Bold ? QFont::Bold : QFont::Normal);
     characters.setFontItalic(format.Italic);
     characters.setFontUnderline(format.Underline);
+    // Without glyphs of other fonts: to look those up takes a tenth of a second for each size.
+    characters.setFontStyleStrategy(QFont::NoFontMerging);
     if (format.Color)
         characters.setForeground(
             QColor(format.Color->Red, format.Color->Green, format.Color->Blue));

@@ -12,8 +12,9 @@
 
 namespace {
 
-constexpr int SmallestWidth = 540; // pixels, as the lengths below
-constexpr int RoomBeside = 32;     // for the window's margins and borders
+constexpr int SmallestWidth = 540;  // pixels, as the lengths below
+constexpr int NarrowestWidth = 320; // on a small screen
+constexpr int RoomBeside = 32;      // for the window's margins and borders
 constexpr int Margin = 14;
 constexpr int RoomBetweenColumns = 10;
 constexpr int BandMargin = 6; // beside the marked line
@@ -83,7 +84,8 @@ void StatusFrame::TakeSize() {
     if (grid->rowMinimumHeight(TurnRow) != turnHeight)
         grid->setRowMinimumHeight(TurnRow, turnHeight);
     const QSize needed = grid->totalMinimumSize();
-    const int most = screen()->availableSize().width() - RoomBeside;
+    // A screen that is being changed may have no size at all.
+    const int most = std::max(NarrowestWidth, screen()->availableSize().width() - RoomBeside);
     setFixedSize(std::min(std::max(SmallestWidth, needed.width()), most), needed.height());
 }
 

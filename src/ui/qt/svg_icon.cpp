@@ -9,7 +9,9 @@
 
 namespace {
 
-constexpr qreal DisabledOpacity = 0.35;
+// The one colour of the line icons, which stands out from light and dark toolbars alike.
+constexpr const char* Accent = "#d4620a";
+constexpr int DisabledAlpha = 90; // of 255
 
 QByteArray ReadFile(const QString& name) {
     QFile file(name);
@@ -22,17 +24,21 @@ public:
         : Svg(std::move(svg)), TakesTextColor(takesTextColor) {}
 
     void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode,
-               QIcon::State /*state*/) override {
-        if (mode == QIcon::Disabled)
-            painter->setOpacity(DisabledOpacity);
-        QSvgRenderer(ColoredSvg()).render(painter, rect);
+               QIcon::State state) override {
+        const qreal ratio = painter->device()->devicePixelRatioF();
+        painter->drawPixmap(rect, pixmap(rect.size() * ratio, mode, state));
     }
 
-    QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
+    QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State /*state*/) override {
         QPixmap pixmap(size);
         pixmap.fill(Qt::transparent);
         QPainter painter(&pixmap);
-        paint(&painter, QRect(QPoint(), size), mode, state);
+        QSvgRenderer(ColoredSvg(mode)).render(&painter);
+        if (mode == QIcon::Disabled) {
+            // As a whole: strokes faded one by one would show where they cross.
+            painter.setCompositionMode(QPainter::CompositionMode_DestinationIn);
+            painter.fillRect(pixmap.rect(), QColor(0, 0, 0, DisabledAlpha));
+        }
         return pixmap;
     }
 
@@ -44,11 +50,15 @@ public:
     QIconEngine* clone() const override { return new SvgIconEngine(*this); }
 
 private:
-    QByteArray ColoredSvg() const {
+    QByteArray ColoredSvg(QIcon::Mode mode) const {
         if (!TakesTextColor)
             return Svg;
-        const QColor text = QGuiApplication::palette().color(QPalette::ButtonText);
-        return QByteArray(Svg).replace("#000000", text.name().toLatin1());
+        const QColor color = QGuiApplication::palette().color(QPalette::ButtonText);
+        const QByteArray text = color.name().toLatin1();
+        QByteArray colored = QByteArray(Svg).replace("#000000", text);
+        if (mode == QIcon::Disabled)
+            colored.replace(Accent, text);
+        return colored;
     }
 
     QByteArray Svg;

@@ -5,7 +5,7 @@
 #include <QString>
 
 // An icon whose black strokes take the colour of the desktop's button texts, so that it reads on
-// light and dark desktops; dimmed while its command is disabled.
+// light and dark desktops; dimmed, without its accent, while its command is disabled.
 QIcon LineIcon(const QString& svgFile);
 
 // An icon in its own colours.

@@ -14,6 +14,8 @@ void KeepOnScreen(QWidget& window) {
     if (window.isMaximized() || window.isFullScreen())
         return; // the desktop keeps such a window on the screen, and moving it would end that state
     const QRect area = window.screen()->availableGeometry();
+    if (area.isEmpty())
+        return; // the screen is being changed
     const QRect frame = window.frameGeometry();
     const QSize borders = frame.size() - window.size();
     const QSize size = frame.size().boundedTo(area.size());

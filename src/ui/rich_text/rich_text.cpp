@@ -16,6 +16,7 @@ constexpr std::size_t MostGroups = 200;
 constexpr std::size_t MostColors = 256;
 constexpr std::size_t MostEdges = 32;
 constexpr int LongestLength = 31680; // 22 inches, in twips
+constexpr int LongestSpace = 2880;   // between paragraphs
 constexpr int SmallestHalfPoints = 8;
 constexpr int LargestHalfPoints = 144;
 
@@ -34,12 +35,17 @@ const std::unordered_map<Word, bool RichRunFormat::*> Switches = {{"b", &RichRun
                                                                   {"ul", &RichRunFormat::Underline},
                                                                   {"v", &RichRunFormat::Hidden}};
 
-const std::unordered_map<Word, int RichParagraphFormat::*> Lengths = {
-    {"li", &RichParagraphFormat::LeftIndent},
-    {"ri", &RichParagraphFormat::RightIndent},
-    {"fi", &RichParagraphFormat::FirstIndent},
-    {"sb", &RichParagraphFormat::SpaceBefore},
-    {"sa", &RichParagraphFormat::SpaceAfter}};
+struct LengthWord {
+    int RichParagraphFormat::*Length;
+    int Longest;
+};
+
+const std::unordered_map<Word, LengthWord> Lengths = {
+    {"li", {&RichParagraphFormat::LeftIndent, LongestLength}},
+    {"ri", {&RichParagraphFormat::RightIndent, LongestLength}},
+    {"fi", {&RichParagraphFormat::FirstIndent, LongestLength}},
+    {"sb", {&RichParagraphFormat::SpaceBefore, LongestSpace}},
+    {"sa", {&RichParagraphFormat::SpaceAfter, LongestSpace}}};
 
 const std::unordered_map<Word, RichAlignment> Alignments = {{"ql", RichAlignment::Left},
                                                             {"qc", RichAlignment::Center},
@@ -153,8 +159,12 @@ bool Reader::IsFallback() {
 }
 
 void Reader::Add(char32_t character) {
-    if (DeeperGroups == 0 && Groups.back().Into == Destination::Text)
-        Builder.AddCharacter(character, Groups.back().Run);
+    const Group& group = Groups.back();
+    if (DeeperGroups > 0 || group.Into != Destination::Text)
+        return;
+    if (Builder.ParagraphIsFull())
+        Builder.EndParagraph(group.Paragraph, group.IsInTable);
+    Builder.AddCharacter(character, group.Run);
 }
 
 void Reader::TakeText(std::string_view text) {
@@ -214,7 +224,8 @@ bool Reader::FormatParagraph(const RtfToken& word) {
     const auto length = Lengths.find(word.Text);
     const auto alignment = Alignments.find(word.Text);
     if (length != Lengths.end()) {
-        group.Paragraph.*length->second = std::clamp(word.Number, -LongestLength, LongestLength);
+        const auto& [member, longest] = length->second;
+        group.Paragraph.*member = std::clamp(word.Number, -longest, longest);
     } else if (alignment != Alignments.end()) {
         group.Paragraph.Alignment = alignment->second;
     } else if (word.Text == "pard") {

@@ -67,6 +67,7 @@ using RichText = std::vector<RichBlock>;
 
 inline constexpr std::size_t LargestRichText = 1 << 20; // bytes
 
-// Never fails: what is no RTF, breaks off before its end or is larger than that is an empty text.
-// Paragraphs, cells and runs beyond some thousands are dropped.
+// Never fails: what is no RTF, breaks off before its end or is larger than that is an empty text. A
+// text is cut where it would take long to lay out, behind some 65,000 letters or 2,700 paragraphs;
+// a paragraph of more than 2,000 letters goes on in a further one.
 RichText ReadRichText(std::string_view rtf);

@@ -1,47 +1,76 @@
 #include "ui/rich_text/rich_text_builder.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "base/text_encoding.h"
 
 namespace {
 
-constexpr std::size_t MostTextBytes = 1 << 20;
-constexpr int MostRuns = 20000;
-constexpr int MostPieces = 5000;
-constexpr std::size_t MostColumns = 32;
+// What a text may cost to lay out, in letters of reading size. Whatever begins an item of its own
+// in a line is dear: within a paragraph the work grows with the square of their number.
+constexpr int ReadingSize = 24; // half points; smaller letters cost as much
+constexpr int MostCost = 65536 * ReadingSize;
+constexpr int LongestParagraph = 2000;
+constexpr int CostOfForeign = 8; // a letter beyond Latin: it may turn direction, script and font
+constexpr int CostOfTab = 16;
+constexpr int CostOfRun = 8;
+constexpr int CostOfPiece = 24; // a paragraph, a cell or a row
+constexpr std::size_t MostColumns = 16;
 
+constexpr char32_t BeyondLatin = 0x250;
+
+int CostOf(char32_t character) {
+    return character == '\t' ? CostOfTab : character < BeyondLatin ? 1 : CostOfForeign;
+}
+
+// Not those by which toolkits mark the structure of a text, nor those that turn its direction.
 bool IsText(char32_t character) {
-    const bool isControl =
-        (character < 0x20 && character != '\t') || (character >= 0x7F && character < 0xA0);
-    const bool isSurrogate = character >= 0xD800 && character < 0xE000;
-    return !isControl && !isSurrogate && character <= 0x10FFFF;
+    const auto isIn = [character](char32_t first, char32_t last) {
+        return character >= first && character <= last;
+    };
+    const bool isControl = (character < 0x20 && character != '\t') || isIn(0x7F, 0x9F);
+    const bool isMark =
+        isIn(0x202A, 0x202E) || isIn(0x2066, 0x2069) || character == 0x2029 || character == 0xFFFC;
+    const bool isNone = isIn(0xD800, 0xDFFF) || isIn(0xFDD0, 0xFDEF) ||
+                        (character & 0xFFFE) == 0xFFFE || character > 0x10FFFF;
+    return !isControl && !isMark && !isNone;
 }
 
 } // namespace
 
 void RichTextBuilder::AddCharacter(char32_t character, const RichRunFormat& format) {
-    if (!IsText(character) || format.Hidden || TextBytes >= MostTextBytes)
+    if (!IsText(character) || format.Hidden)
         return;
-    if (OpenParagraph.Runs.empty() || OpenParagraph.Runs.back().Format != format) {
-        if (RunCount == MostRuns)
-            return;
-        ++RunCount;
+    const bool isNewRun = OpenParagraph.Runs.empty() || OpenParagraph.Runs.back().Format != format;
+    const int cost = CostOf(character) + (isNewRun ? CostOfRun : 0);
+    if (!Affords(cost * std::max(format.HalfPoints, ReadingSize)))
+        return;
+    OpenCost += cost;
+    if (isNewRun)
         OpenParagraph.Runs.push_back({.Text = {}, .Format = format});
-    }
-    std::string& text = OpenParagraph.Runs.back().Text;
-    const std::size_t before = text.size();
-    AppendUtf8(text, character);
-    TextBytes += text.size() - before;
+    AppendUtf8(OpenParagraph.Runs.back().Text, character);
 }
 
-bool RichTextBuilder::HasRoom() {
-    return PieceCount++ < MostPieces;
+bool RichTextBuilder::ParagraphIsFull() const {
+    return OpenCost >= LongestParagraph;
+}
+
+// What does not fit any more ends the text. Pieces that hold some are still finished.
+bool RichTextBuilder::Affords(int cost) {
+    const bool isAfforded = Cost + cost <= MostCost;
+    Cost = isAfforded ? Cost + cost : MostCost;
+    return isAfforded;
+}
+
+bool RichTextBuilder::AffordsPieces(std::size_t count) {
+    return Affords(static_cast<int>(count) * CostOfPiece * ReadingSize);
 }
 
 RichParagraph RichTextBuilder::TakeParagraph(const RichParagraphFormat& format) {
     RichParagraph taken = std::exchange(OpenParagraph, {});
     taken.Format = format;
+    OpenCost = 0;
     return taken;
 }
 
@@ -49,7 +78,7 @@ void RichTextBuilder::EndParagraph(const RichParagraphFormat& format, bool isInT
     RichParagraph paragraph = TakeParagraph(format);
     if (!isInTable)
         EndRow({}); // a row that was left open
-    if (!HasRoom())
+    if (!AffordsPieces(1) && paragraph.Runs.empty())
         return;
     if (isInTable) {
         OpenCell.Paragraphs.push_back(std::move(paragraph));
@@ -63,7 +92,8 @@ void RichTextBuilder::EndCell(const RichParagraphFormat& format) {
     if (!OpenParagraph.Runs.empty())
         EndParagraph(format, true);
     RichCell cell = std::exchange(OpenCell, {});
-    if (OpenRow.Cells.size() < MostColumns && HasRoom())
+    const bool isKept = AffordsPieces(1) || !cell.Paragraphs.empty();
+    if (isKept && OpenRow.Cells.size() < MostColumns)
         OpenRow.Cells.push_back(std::move(cell));
 }
 
@@ -71,12 +101,16 @@ void RichTextBuilder::EndRow(const std::vector<int>& rightEdges) {
     if (!OpenParagraph.Runs.empty() || !OpenCell.Paragraphs.empty())
         EndCell({});
     RichRow row = std::exchange(OpenRow, {});
-    if (row.Cells.empty() || !HasRoom())
+    if (row.Cells.empty())
         return;
+    const bool goesOn = IsInTable && row.Cells.size() <= TableColumns;
+    const std::size_t columns = goesOn ? TableColumns : row.Cells.size();
+    AffordsPieces(1 + columns - row.Cells.size()); // with the empty cells that fill it up
     row.RightEdges = rightEdges;
-    if (!IsInTable)
+    if (!goesOn)
         Document.emplace_back(RichTable{});
     IsInTable = true;
+    TableColumns = columns;
     std::get<RichTable>(Document.back()).Rows.push_back(std::move(row));
 }
 
