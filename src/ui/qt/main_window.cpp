@@ -55,14 +55,15 @@ MainWindow::MainWindow()
       frmHelp(new HelpViewer(this)) {
     setObjectName("frmQuibsMain");
     setWindowTitle("Quiblink");
-    setWindowIcon(ColoredIcon(":/icons/quiblink.svg"));
+    QApplication::setWindowIcon(ColoredIcon(":/icons/quiblink.svg"));
     setCentralWidget(ClientArea);
     ClientArea->installEventFilter(this);
     fraStatistics->installEventFilter(this);
     picPlayingField->setFocus();
     BuildMenus();
     BuildToolBar();
-    UseMainWindow({.ShowControls = [this] { ShowControls(); },
+    UseMainWindow({.Window = this,
+                   .ShowControls = [this] { ShowControls(); },
                    .Say =
                        [this](const std::string& text) {
                            picPlayingField->Say(QString::fromStdString(text));

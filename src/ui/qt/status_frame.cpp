@@ -12,9 +12,8 @@
 
 namespace {
 
-constexpr int SmallestWidth = 540;  // pixels, as the lengths below
-constexpr int NarrowestWidth = 320; // on a small screen
-constexpr int RoomBeside = 32;      // for the window's margins and borders
+constexpr int SmallestWidth = 540; // pixels, as the lengths below
+constexpr int RoomBeside = 32;     // for the window's margins and borders
 constexpr int Margin = 14;
 constexpr int RoomBetweenColumns = 10;
 constexpr int BandMargin = 6; // beside the marked line
@@ -84,9 +83,11 @@ void StatusFrame::TakeSize() {
     if (grid->rowMinimumHeight(TurnRow) != turnHeight)
         grid->setRowMinimumHeight(TurnRow, turnHeight);
     const QSize needed = grid->totalMinimumSize();
-    // A screen that is being changed may have no size at all.
-    const int most = std::max(NarrowestWidth, screen()->availableSize().width() - RoomBeside);
-    setFixedSize(std::min(std::max(SmallestWidth, needed.width()), most), needed.height());
+    int width = std::max(SmallestWidth, needed.width());
+    const int screenWidth = screen()->availableSize().width();
+    if (screenWidth > RoomBeside) // a screen that is being changed may have no size at all
+        width = std::min(width, screenWidth - RoomBeside);
+    setFixedSize(width, needed.height());
 }
 
 bool StatusFrame::event(QEvent* event) {
