@@ -19,7 +19,7 @@ RichText ReadDocument(const char* name) {
 
 } // namespace
 
-HelpViewer::HelpViewer(QWidget* parent) : QDialog(parent), rtfHelp(new QTextBrowser(this)) {
+HelpViewer::HelpViewer(QWidget* parent) : PlacedDialog(parent), rtfHelp(new QTextBrowser(this)) {
     setObjectName("frmHelp");
     setWindowTitle("Quiblink Help");
     rtfHelp->setObjectName("rtfHelp");
@@ -40,9 +40,7 @@ HelpViewer::HelpViewer(QWidget* parent) : QDialog(parent), rtfHelp(new QTextBrow
 
 void HelpViewer::OpenOrRaise() {
     Form_Load();
-    show();
-    raise();
-    activateWindow();
+    ShowAndRaise();
 }
 
 void HelpViewer::Form_Load() {
