@@ -256,7 +256,7 @@ TEST_F(TurnLoop, StartsTwentyGamesDuringBlinksOnOneStackAndSurvivesAFailureThere
     RunGuarded([] { RunCommand(Command::Start); });
     EXPECT_EQ(frames.size(), 1U);
     EXPECT_EQ(TheNullDesktop.Boxes.back().Text,
-              "The game had to be ended: a number of the game does not fit into 16 bits.");
+              "The game had to be ended, because its board is damaged.");
     ExpectGivenUp();
     TheNullDesktop.WhenYielding = [] {
         EXPECT_FALSE(Game.ProgramEnding) << "a blink went on";

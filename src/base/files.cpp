@@ -166,11 +166,12 @@ FileReplacement::~FileReplacement() {
 }
 
 void FileReplacement::CreateNew() {
-    constexpr int mostAtOnce = 100; // copies of the game that save into one directory
+    constexpr int mostAtOnce = 20; // copies of the game that save into one directory
     constexpr mode_t modeBeforeMask = 0666;
+    for (int number = 0; number < mostAtOnce; ++number)
+        RemoveIfLeftBehind(NameBeside(Name, number));
     for (int number = 0; number < mostAtOnce; ++number) {
         const std::string name = NameBeside(Name, number);
-        RemoveIfLeftBehind(name);
         OpenFile file(open(name.c_str(), O_WRONLY | O_CREAT | O_EXCL | AlwaysWith, modeBeforeMask));
         if (!file.IsOpen() && errno != EEXIST)
             return;

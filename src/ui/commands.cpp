@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <array>
 #include <exception>
+#include <new>
+#include <stdexcept>
 #include <string>
 #include <utility>
 
@@ -25,6 +27,7 @@
 namespace {
 
 constexpr double NarrowestCentredScreen = 1024; // pixels
+constexpr const char* DamagedBoard = "its board is damaged";
 
 bool Confirms(const char* question, const char* title) {
     return ShowMessageBox(question, title, MessageIcon::Question, MessageButtons::YesNo) ==
@@ -114,21 +117,24 @@ std::string CentredLine(const std::string& line) {
 } // namespace
 
 void RunGuarded(const std::function<void()>& handler) {
-    std::string failure;
+    const char* reason = "something unforeseen happened";
     try {
         handler();
         return;
-    } catch (const std::exception& error) {
-        failure = error.what();
-    } catch (...) {
-        failure = "an unknown error";
+    } catch (const std::bad_alloc&) {
+        reason = "there is not enough memory";
+    } catch (const std::logic_error&) { // as by a line that is none
+        reason = DamagedBoard;
+    } catch (const std::overflow_error&) { // by a number that no game holds
+        reason = DamagedBoard;
+    } catch (...) { // nothing more is known
     }
     // A turn loop that is running below this handler must unwind by itself.
     if (Game.GameInPlay)
         Game.QuitRequested = true;
     else if (!Game.GameOverShown)
         AbandonGame();
-    ShowMessageBox("The game had to be ended: " + failure + ".", "Quiblink",
+    ShowMessageBox(std::string("The game had to be ended, because ") + reason + ".", "Quiblink",
                    MessageIcon::Exclamation, MessageButtons::Ok);
 }
 

@@ -5,7 +5,8 @@
 #include "support/person.h"
 
 void TryInput(const std::string& input) {
-    const TestDirectory directory;
+    static const TestDirectory directory;
+    std::filesystem::remove("QUIBLNK.CFG");
     StartFresh();
     const GameState builtIn = Game;
     GameState silent = builtIn;

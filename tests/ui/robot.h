@@ -57,6 +57,14 @@ public:
     // Of all runs of the program.
     static std::string StandardError() { return BytesOf("stderr"); }
 
+    // Starts a program that writes a line when it is ready, and tells that line.
+    static std::string StartAndHear(QProcess& process, const char* program,
+                                    const QStringList& arguments) {
+        process.start(program, arguments);
+        process.waitForReadyRead();
+        return process.readLine().trimmed().toStdString();
+    }
+
     // Tells whether it came true before the time was up.
     static bool WaitFor(const std::function<bool()>& condition, int milliseconds = 20'000) {
         const QDeadlineTimer end(milliseconds);
@@ -128,14 +136,6 @@ public:
     }
 
 private:
-    // Starts a program that writes a line when it is ready, and tells that line.
-    static std::string StartAndHear(QProcess& process, const char* program,
-                                    const QStringList& arguments) {
-        process.start(program, arguments);
-        process.waitForReadyRead();
-        return process.readLine().trimmed().toStdString();
-    }
-
     Window FocusedWindow() {
         Window window = 0;
         int revertsTo = 0;

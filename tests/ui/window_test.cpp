@@ -114,6 +114,13 @@ protected:
         EXPECT_EQ(CountDrawn(), count);
     }
 
+    // Draws lines without the pointer, wherever the keys lead.
+    void PlayOnByKeys(int count) {
+        const auto areDrawn = [&] { return CountDrawn() >= count; };
+        ActUntil("the lines", areDrawn, [&] { Press("Right Return"); });
+        EXPECT_EQ(CountDrawn(), count);
+    }
+
     // The colour of the picture beside the field.
     unsigned long ShownBackground() {
         const QRect window = FocusedArea();
@@ -145,7 +152,6 @@ TEST_F(RealWindow, AnswersItsMenusByAccessKeyAndEndsWithinASecondBehindADialog) 
     StartGame("alt+g a", 4, 4); // Game, Auto
     Await("an automatic game", [&] { return CountDrawn() >= 16; });
     Use("ctrl+x", "Exit the Game", "Escape");
-    Use("ctrl+h", "Quiblink Help", "Return");
     Open("ctrl+y", "Quiblink History");
     Click(FocusedArea().bottomRight() - QPoint(50, 25)); // its Ok
     WaitForFocus("Quiblink");
@@ -156,13 +162,18 @@ TEST_F(RealWindow, AnswersItsMenusByAccessKeyAndEndsWithinASecondBehindADialog) 
     EXPECT_EQ(WaitForExit(1000), 0);
 }
 
-TEST_F(RealWindow, KeepsAGameAndTheSettingsInFiles) {
+TEST_F(RealWindow, NeedsNoPointerForAWholeGameItsDialogsAndItsFiles) {
     Use("ctrl+r", "Define Playing Grid", "3 Tab 2 Return");
     // Both players become persons.
     Use("ctrl+p", "Define Players", "Tab Tab Up Up Tab Tab Tab Up Return");
-    StartGame("ctrl+t", 3, 2);
-    PlayOn(5);
+    StartGame("F10 Right t", 3, 2);     // Game, Start
+    Press("Right space Return Return"); // shows the middle line, turns it, draws it
+    Await("the turned line", [&] { return IsDrawn(Field.Lines.at(10)); });
+    PlayOnByKeys(5);
 
+    Use("ctrl+h", "Quiblink Help", "Next Tab Return");
+    Use("ctrl+y", "Quiblink History", "Return");
+    Use("ctrl+b", "About Quiblink", "Return");
     Press("ctrl+u"); // pauses
     Use("ctrl+s", "Save a Quibs Game", "s t o r y Return");
     EXPECT_TRUE(std::filesystem::exists("story.qbs"));
@@ -170,7 +181,7 @@ TEST_F(RealWindow, KeepsAGameAndTheSettingsInFiles) {
     Use("ctrl+o", "Open a Quibs Game", "Tab s t o r y period q b s Return"); // past the list
     Await("the saved lines", [&] { return CountDrawn() == 5; });
     Press("ctrl+t");
-    PlayOn(17);
+    PlayOnByKeys(17);
 
     Open("ctrl+r", "Define Playing Grid");
     Press("Tab Tab space"); // the colour of the background

@@ -50,4 +50,5 @@ void HelpViewer::Form_Load() {
     ShowRichText(ReadDocument(Game.ShowHistory ? "qblnkhst.rtf" : "quiblnk.rtf"),
                  *rtfHelp->document());
     rtfHelp->moveCursor(QTextCursor::Start);
+    rtfHelp->setFocus();
 }

@@ -3,23 +3,32 @@
 #include <QColorDialog>
 #include <QPainter>
 
+#include "display/words.h"
 #include "platform/qt/qt_color.h"
 
-Swatch::Swatch(const QString& objectName, const QString& accessibleName, QWidget* parent)
-    : QWidget(parent) {
+Swatch::Swatch(const QString& objectName, const QString& name, QWidget* parent)
+    : QLabel(parent), Name(name) {
     setObjectName(objectName);
-    setAccessibleName(accessibleName);
-    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    QSizePolicy policy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    policy.setRetainSizeWhenHidden(true);
+    setSizePolicy(policy);
+    TellColor();
+}
+
+void Swatch::TellColor() {
+    setAccessibleName(Name + ": " + QString::fromStdString(ColorInWords(Shown.FillColor)));
 }
 
 void Swatch::SetFillColor(Color color) {
     Show({color, Shown.Visible});
 }
 
-void Swatch::Show(const Shape& shape) {
+void Swatch::Show(const ::Shape& shape) {
     if (Shown == shape)
         return;
     Shown = shape;
+    TellColor();
+    setVisible(shape.Visible);
     update();
 }
 
@@ -29,8 +38,6 @@ QSize Swatch::sizeHint() const {
 }
 
 void Swatch::paintEvent(QPaintEvent* /*event*/) {
-    if (!Shown.Visible)
-        return;
     QPainter painter(this);
     painter.fillRect(rect(), palette().color(QPalette::PlaceholderText));
     painter.fillRect(rect().adjusted(1, 1, -1, -1), ToQColor(Shown.FillColor));

@@ -1,10 +1,11 @@
-#include "support/game_test.h"
+#include "support/board.h"
 
 #include <random>
 
 #include "base/random.h"
 #include "core/play/game_setup.h"
 #include "display/safe_lines.h"
+#include "support/person.h"
 
 namespace {
 

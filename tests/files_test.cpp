@@ -1,0 +1,88 @@
+// Files on a disk that is full, in directories of others, and under a program that is killed.
+#include "base/files.h"
+
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <csignal>
+#include <vector>
+
+#include "support/game_test.h"
+
+namespace {
+
+class Files : public GameTest {
+protected:
+    void TearDown() override { EXPECT_EQ(seteuid(getuid()), 0); }
+
+    static void ReplaceBy(const std::string& text) { FileReplacement(File).Write(text); }
+
+    static void ReplaceOnFullDisk(const std::string& text) {
+        std::signal(SIGXFSZ, SIG_IGN);
+        rlimit before{};
+        getrlimit(RLIMIT_FSIZE, &before);
+        const rlimit full{text.size() / 2, before.rlim_max};
+        setrlimit(RLIMIT_FSIZE, &full);
+        EXPECT_THROW(ReplaceBy(text), std::runtime_error);
+        setrlimit(RLIMIT_FSIZE, &before);
+    }
+
+    static long CountFiles() { return std::distance(std::filesystem::directory_iterator("."), {}); }
+
+    inline static const std::string File = "game.qbs";
+};
+
+TEST_F(Files, AreReplacedWholeOrNotAtAll) {
+    PutBytes("behind.qbs", "old");
+    chmod("behind.qbs", 0640);
+    std::filesystem::create_symlink("behind.qbs", File);
+    ReplaceOnFullDisk("longer than before");
+    EXPECT_EQ(BytesOf("behind.qbs"), "old");
+    EXPECT_EQ(CountFiles(), 2);
+    ReplaceBy("new");
+    EXPECT_EQ(BytesOf("behind.qbs"), "new");
+    EXPECT_TRUE(std::filesystem::is_symlink(File));
+    EXPECT_EQ(static_cast<int>(std::filesystem::status(File).permissions()), 0640);
+}
+
+TEST_F(Files, AreWrittenOverWhereTheDirectoryTakesNoNewOnes) {
+    PutBytes(File, "old");
+    constexpr uid_t nobody = 65534; // root may write anywhere
+    EXPECT_EQ(chmod(".", 0555), 0);
+    EXPECT_TRUE(geteuid() != 0 ||
+                (chown(File.c_str(), nobody, nobody) == 0 && seteuid(nobody) == 0));
+    ReplaceOnFullDisk("longer than before");
+    EXPECT_EQ(BytesOf(File), "old");
+    ReplaceBy("longer than before");
+    ReplaceBy("shorter");
+    EXPECT_EQ(BytesOf(File), "shorter");
+    EXPECT_THROW(FileReplacement("other.qbs"), std::runtime_error);
+}
+
+TEST_F(Files, AreWholeWhileCopiesOfTheProgramWriteThemAndAreKilled) {
+    const auto whole = [](char letter) { return std::string(1 << 18, letter); };
+    ReplaceBy(whole('a'));
+    for (int round = 0; round < 10; ++round) {
+        std::vector<pid_t> copies;
+        for (const char letter : {'a', 'b', 'c'}) {
+            copies.push_back(fork());
+            while (copies.back() == 0)
+                ReplaceBy(whole(letter));
+        }
+        for (int look = 0; look < 10; ++look) {
+            const std::string bytes = BytesOf(File);
+            EXPECT_TRUE(!bytes.empty() && bytes == whole(bytes.front()));
+        }
+        for (const pid_t copy : copies) {
+            kill(copy, SIGKILL);
+            waitpid(copy, nullptr, 0);
+        }
+        EXPECT_EQ(BytesOf(File).size(), whole('a').size());
+    }
+    ReplaceBy("the last");
+    EXPECT_EQ(CountFiles(), 1) << "something is left of the killed";
+}
+
+} // namespace
