@@ -117,8 +117,8 @@ void DoAnything(std::uint32_t number) {
         [](std::uint32_t) { picPlayingField_MouseDown(); },
         [](std::uint32_t command) { RunCommand(static_cast<Command>(command % CommandCount)); }};
     constexpr std::uint32_t commands = 9; // as likely as the other things together
-    TheNullDesktop.Answers.assign(9, TakeDigit(number, 4) == 0 ? MessageAnswer::No
-                                                               : MessageAnswer::Yes);
+    TheNullDesktop.Answers.assign(9, TakeDigit(number, 4) == 0 ? MessageAnswer::Yes
+                                                               : MessageAnswer::No);
     const auto thing = static_cast<std::size_t>(TakeDigit(number, std::size(things) + commands));
     RunGuarded([=] { things[std::min(thing, std::size(things) - 1)](number); });
 }
@@ -144,7 +144,7 @@ bool UseGameBriefly(const std::string& story) {
             next = story.end();
         // Without a pause this begins a new game, which heals everything.
         Game.GamePaused = Game.GamePaused && !isNew;
-        Game.ProgramEnding = isWhole = false;
+        isWhole = Game.ProgramEnding;
         RunGuarded([] { RunCommand(Command::Start); });
     }
     TheNullDesktop.WhenYielding = nullptr;
