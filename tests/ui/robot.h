@@ -95,6 +95,18 @@ public:
         });
     }
 
+    void ResizeWindow(QSize size) {
+        xdo_set_window_size(Hand, FocusedWindow(), size.width(), size.height(), 0);
+        Await("the window's size", [&] { return FocusedArea().size() == size; });
+    }
+
+    // To 800 by 500.
+    static void ShrinkScreen() {
+        for (const char* change : {"--newmode small 50 800 800 800 800 500 500 500 500",
+                                   "--addmode screen small", "--output screen --mode small"})
+            QProcess::execute("xrandr", QString(change).split(' '));
+    }
+
     // Presses keys one after another, as in "ctrl+t" or "alt+g a".
     void Press(const std::string& keys) {
         std::istringstream words(keys);

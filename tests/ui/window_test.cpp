@@ -242,4 +242,24 @@ TEST_F(RealWindow, NeedsNoPointerForAWholeGameItsDialogsAndItsFiles) {
     EXPECT_EQ(WaitForExit(), 0);
 }
 
+TEST_F(RealWindow, ForgetsNothingOfTheBoardAndStaysOnTheScreenWhenBothBecomeSmaller) {
+    ResizeWindow({900, 700});
+    Use("ctrl+r", "Define Playing Grid", "End Tab 4 Return");
+    StartGame("ctrl+d", 34, 4);
+    const QPoint farAcross = Field.Points.at(22) - FocusedArea().topLeft();
+    for (const int width : {560, 600}) { // neither shows the whole field, the second more of it
+        ResizeWindow({width, 700});
+        WaitForFocus("Quiblink Resize Warning");
+        Press("Return");
+        WaitForFocus("Quiblink");
+    }
+    const QPoint shown = FocusedArea().topLeft() + farAcross;
+    Await("what was outside", [&] { return PixelAt(shown) == Drawn; });
+
+    ShrinkScreen();
+    Await("the window on the smaller screen", [&] {
+        return FocusedTitle() == "Quiblink" && QRect(0, 0, 800, 500).contains(FocusedArea());
+    });
+}
+
 } // namespace
