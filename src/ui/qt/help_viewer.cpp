@@ -39,8 +39,8 @@ HelpViewer::HelpViewer(QWidget* parent) : QDialog(parent), rtfHelp(new QTextBrow
 }
 
 void HelpViewer::OpenOrRaise() {
+    show(); // first: else the text is laid out for hardly any width before it is for this one
     Form_Load();
-    show();
     raise();
     activateWindow();
 }
