@@ -39,8 +39,8 @@ HelpViewer::HelpViewer(QWidget* parent) : PlacedDialog(parent), rtfHelp(new QTex
 }
 
 void HelpViewer::OpenOrRaise() {
+    ShowAndRaise(); // first: else the text is laid out for hardly any width before it is for this
     Form_Load();
-    ShowAndRaise();
 }
 
 void HelpViewer::Form_Load() {
