@@ -2,6 +2,7 @@
 
 #include <QHBoxLayout>
 #include <QPushButton>
+#include <QScreen>
 #include <QTextBrowser>
 #include <QVBoxLayout>
 
@@ -11,7 +12,8 @@
 
 namespace {
 
-constexpr QSize InitialSize(620, 460); // pixels
+constexpr QSize InitialSize(620, 460); // pixels, of a document that is not enlarged
+constexpr QSize RoomForFrame(40, 60);
 
 RichText ReadDocument(const char* name) {
     return ReadRichText(ReadRegularFile(name, LargestRichText + 1).value_or(""));
@@ -35,7 +37,7 @@ HelpViewer::HelpViewer(QWidget* parent) : PlacedDialog(parent), rtfHelp(new QTex
     auto* all = new QVBoxLayout(this);
     all->addWidget(rtfHelp);
     all->addLayout(buttons);
-    resize(InitialSize);
+    resize((InitialSize * Enlargement()).boundedTo(screen()->availableSize() - RoomForFrame));
 }
 
 void HelpViewer::OpenOrRaise() {

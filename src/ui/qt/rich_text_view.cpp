@@ -10,6 +10,7 @@
 namespace {
 
 constexpr double TwipsPerUnit = 15; // a document counts in 96ths of an inch
+constexpr double UsualPoints = 11;  // of the letters of a document
 constexpr int CellPadding = 5;
 constexpr int SpaceBelowTable = 12;      // the space before the next paragraph does not count there
 const QColor TableBorder(128, 128, 128); // shows on light and on dark
@@ -29,22 +30,23 @@ Qt::Alignment ToAlignment(RichAlignment alignment) {
 }
 
 QTextBlockFormat ToBlockFormat(const RichParagraphFormat& format) {
+    const double units = Enlargement() / TwipsPerUnit;
     QTextBlockFormat block;
     block.setAlignment(ToAlignment(format.Alignment));
-    block.setLeftMargin(std::max(format.LeftIndent, 0) / TwipsPerUnit);
-    block.setRightMargin(std::max(format.RightIndent, 0) / TwipsPerUnit);
-    block.setTextIndent(format.FirstIndent / TwipsPerUnit);
-    block.setTopMargin(std::max(format.SpaceBefore, 0) / TwipsPerUnit);
-    block.setBottomMargin(std::max(format.SpaceAfter, 0) / TwipsPerUnit);
+    block.setLeftMargin(std::max(format.LeftIndent, 0) * units);
+    block.setRightMargin(std::max(format.RightIndent, 0) * units);
+    block.setTextIndent(format.FirstIndent * units);
+    block.setTopMargin(std::max(format.SpaceBefore, 0) * units);
+    block.setBottomMargin(std::max(format.SpaceAfter, 0) * units);
     if (format.FirstIndent < 0) // the text behind a hanging marker lines up with the lines below
         block.setTabPositions(
-            {QTextOption::Tab(-format.FirstIndent / TwipsPerUnit, QTextOption::LeftTab)});
+            {QTextOption::Tab(-format.FirstIndent * units, QTextOption::LeftTab)});
     return block;
 }
 
 QTextCharFormat ToCharFormat(const RichRunFormat& format) {
     QTextCharFormat characters;
-    characters.setFontPointSize(format.HalfPoints / 2.0);
+    characters.setFontPointSize(format.HalfPoints / 2.0 * Enlargement());
     characters.setFontWeight(format.Bold ? QFont::Bold : QFont::Normal);
     characters.setFontItalic(format.Italic);
     characters.setFontUnderline(format.Underline);
@@ -117,6 +119,10 @@ void InsertTable(QTextCursor& cursor, const RichTable& table) {
 }
 
 } // namespace
+
+double Enlargement() {
+    return std::max(1.0, QFont().pointSizeF() / UsualPoints);
+}
 
 void ShowRichText(const RichText& text, QTextDocument& document) {
     document.clear();
