@@ -115,17 +115,4 @@ TEST_F(Field, ThatNoLongerFitsIsLeftWhereItWasAndWarnedOfDuringAGame) {
     EXPECT_FALSE(Form_Resize()) << "no game to warn of";
 }
 
-TEST_F(Field, IsFilledWithSafeLinesUntilNoneIsLeft) {
-    for (const auto& [columns, rows] : {std::pair{3, 2}, {1, 1}, {7, 4}, {2, 9}}) {
-        SetUpGame(columns, rows, Humanoid, Humanoid);
-        DrawForNobody({1});
-        DrawSafeLines();
-        EXPECT_TRUE(BoardIsSound());
-        for (const Box& box : Game.Boxes)
-            EXPECT_LE(box.SidesDrawn, 2);
-        for (const int line : UndrawnLines())
-            EXPECT_FALSE(IsSafeLine(line)) << line;
-    }
-}
-
 } // namespace

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "base/random.h"
+#include "display/safe_lines.h"
 #include "support/game_test.h"
 #include "support/person.h"
 
@@ -78,7 +79,12 @@ TEST_F(MoveSelection, EndsEveryTurnOnAnyBoardWithAnUndrawnLine) {
             SCOPED_TRACE(::testing::Message() << columns << " by " << rows << ", seed " << seed);
             const auto kind = ToInteger(static_cast<int>(seed % 4));
             SetUpGame(columns, rows, kind, ComputerAverage);
-            DrawRandomPosition(seed / 4);
+            SeedRandom(seed / 4);
+            if (seed % 16 > 3)
+                DrawSafeLines();
+            for (const int line : UndrawnLines())
+                if (RandomPick(12) <= static_cast<int>(seed % 16))
+                    DrawForNobody({line});
             if (seed % 10 == 0)
                 Game.LastLine = 0; // as after a load
             const GameState before = Game;

@@ -32,16 +32,11 @@ TEST_F(News, TellATurnInOneText) {
                        "Colossus took a box. Colossus 1, Guardian 1. It's A Draw."}));
 }
 
-TEST_F(News, TellOfAGameBetweenComputersOnlyTheScoreNowAndThenAndNothingIfNobodyListens) {
-    for (const bool isListenedTo : {false, true}) {
-        TheNullDesktop.IsListenedTo = isListenedTo;
-        TheNullDesktop.SecondsWaited = 0;
-        RunCommand(Command::Start);
-        EXPECT_EQ(TheNullDesktop.Sayings.size() > 3, isListenedTo);
-        EXPECT_LT(TheNullDesktop.Sayings.size(), 3 + TheNullDesktop.SecondsWaited / 15);
-    }
+TEST_F(News, OfAGameBetweenComputersAreTheScoreNowAndThen) {
+    RunCommand(Command::Start);
+    EXPECT_GT(TheNullDesktop.Sayings.size(), 3U);
+    EXPECT_LT(TheNullDesktop.Sayings.size(), 3 + TheNullDesktop.SecondsWaited / 15);
     EXPECT_EQ(TheNullDesktop.Sayings.at(1).find("drew"), std::string::npos);
-    EXPECT_NE(TheNullDesktop.Sayings.back().find("The Winner Is: "), std::string::npos);
 }
 
 } // namespace
