@@ -1,10 +1,7 @@
 // Games in files: what is written, what is read, and what a file that cannot be does.
 #include "storage/saved_game.h"
 
-#include <sys/resource.h>
 #include <sys/stat.h>
-
-#include <csignal>
 
 #include "base/text_encoding.h"
 #include "display/command_states.h"
@@ -96,13 +93,7 @@ TEST_F(SavedGame, ThatFailsAfterOpeningLeavesTheChannelTakenAndOtherFilesWhole) 
     }
     EXPECT_EQ(BytesOf("new.qbs"), BytesOf(OneBox));
 
-    std::signal(SIGXFSZ, SIG_IGN);
-    rlimit before{};
-    getrlimit(RLIMIT_FSIZE, &before);
-    const rlimit fullDisk{100, before.rlim_max};
-    setrlimit(RLIMIT_FSIZE, &fullDisk);
-    SaveGame("cut.qbs");
-    setrlimit(RLIMIT_FSIZE, &before);
+    OnFullDisk(100, [] { SaveGame("cut.qbs"); });
 
     TheNullDesktop.Answers = {MessageAnswer::Yes, MessageAnswer::Yes};
     PutBytes("game.qbs", "mine");
