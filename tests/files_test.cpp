@@ -62,7 +62,7 @@ TEST_F(Files, AreWrittenOverWhereTheDirectoryTakesNoNewOnes) {
 }
 
 TEST_F(Files, AreWholeWhileCopiesOfTheProgramWriteThemAndAreKilled) {
-    const auto whole = [](char letter) { return std::string(1 << 18, letter); };
+    const auto whole = [](char letter) { return std::string(1 << 17, letter); };
     ReplaceBy(whole('a'));
     for (int round = 0; round < 10; ++round) {
         std::vector<pid_t> copies;
@@ -71,7 +71,7 @@ TEST_F(Files, AreWholeWhileCopiesOfTheProgramWriteThemAndAreKilled) {
             while (copies.back() == 0)
                 ReplaceBy(whole(letter));
         }
-        for (int look = 0; look < 10; ++look) {
+        for (int look = 0; look < 8; ++look) {
             const std::string bytes = BytesOf(File);
             EXPECT_TRUE(!bytes.empty() && bytes == whole(bytes.front()));
         }

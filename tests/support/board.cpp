@@ -1,7 +1,5 @@
 #include "support/board.h"
 
-#include <random>
-
 #include "base/random.h"
 #include "core/play/game_setup.h"
 #include "display/safe_lines.h"
@@ -66,14 +64,14 @@ void DrawForNobody(const std::vector<int>& lines) {
 }
 
 void DrawRandomPosition(std::uint32_t seed) {
-    std::mt19937 chance(seed);
     SeedRandom(seed);
-    const bool hasOpening = chance() % 4 != 0;
+    const bool hasOpening = seed % 4 != 0;
     if (hasOpening)
         DrawSafeLines();
-    for (auto left = chance() % (hasOpening ? 4 : UndrawnLines().size()); left > 0; --left) {
-        const std::vector<int> lines = UndrawnLines();
-        if (!lines.empty())
-            DrawForNobody({lines.at(chance() % lines.size())});
+    std::vector<int> open = UndrawnLines();
+    const int most = hasOpening ? 4 : Game.LineCount;
+    for (int left = RandomPick(most) - 1; left > 0 && !open.empty(); --left) {
+        DrawForNobody({open.at(RandomPick(static_cast<int>(open.size())) - 1)});
+        open = UndrawnLines();
     }
 }

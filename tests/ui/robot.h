@@ -28,6 +28,7 @@ public:
             StartAndHear(ScreenServer, "Xvfb", {"-displayfd", "1", "-screen", "0", "1280x900x24"});
         setenv("DISPLAY", (":" + number).c_str(), 1);
         setenv("XDG_RUNTIME_DIR", Directory.Path.c_str(), 1);
+        setenv("XDG_DATA_HOME", Directory.Path.c_str(), 1);
         setenv("XDG_CONFIG_HOME", Directory.Path.c_str(), 1); // where openbox finds no settings
         StartAndHear(WindowManager, "openbox", {"--sm-disable", "--startup", "echo ready"});
         Hand = xdo_new(nullptr);
@@ -46,7 +47,10 @@ public:
         }
     }
 
-    void StartProgram() { Program.start(QUIBLINK_PROGRAM, {}); }
+    // The one that was built, or another to be tried, such as the installed one.
+    void StartProgram() {
+        Program.start(qEnvironmentVariable("QUIBLINK_PROGRAM", QUIBLINK_PROGRAM), {});
+    }
 
     // The exit status, or -1 if the program did not end in time or crashed.
     int WaitForExit(int milliseconds = 10'000) {
@@ -91,6 +95,18 @@ public:
         });
     }
 
+    void ResizeWindow(QSize size) {
+        xdo_set_window_size(Hand, FocusedWindow(), size.width(), size.height(), 0);
+        Await("the window's size", [&] { return FocusedArea().size() == size; });
+    }
+
+    // To 800 by 500.
+    static void ShrinkScreen() {
+        for (const char* change : {"--newmode small 50 800 800 800 800 500 500 500 500",
+                                   "--addmode screen small", "--output screen --mode small"})
+            QProcess::execute("xrandr", QString(change).split(' '));
+    }
+
     // Presses keys one after another, as in "ctrl+t" or "alt+g a".
     void Press(const std::string& keys) {
         std::istringstream words(keys);
@@ -105,15 +121,30 @@ public:
         xdo_click_window(Hand, CURRENTWINDOW, 1);
     }
 
+    void DoubleClick(QPoint point) {
+        Click(point);
+        Click(point);
+    }
+
+    void Resize(QSize size) {
+        xdo_set_window_size(Hand, FocusedWindow(), size.width(), size.height(), 0);
+    }
+
     // 0xRRGGBB.
     unsigned long PixelAt(QPoint point) {
-        XImage* image = XGetImage(Hand->xdpy, DefaultRootWindow(Hand->xdpy), point.x(), point.y(),
-                                  1, 1, AllPlanes, ZPixmap);
-        if (image == nullptr)
-            throw std::runtime_error("no such pixel on the screen");
-        const unsigned long pixel = XGetPixel(image, 0, 0);
-        XDestroyImage(image);
-        return pixel;
+        unsigned long color = 0;
+        ForEachPixel({point, QSize(1, 1)}, [&](QPoint, unsigned long found) { color = found; });
+        return color;
+    }
+
+    // The smallest rectangle round everything of a colour inside the focused window.
+    QRect AreaOf(unsigned long color) {
+        QRect area;
+        ForEachPixel(FocusedArea(), [&](QPoint point, unsigned long found) {
+            if (found == color)
+                area |= QRect(point, QSize(1, 1));
+        });
+        return area;
     }
 
     // The title of the window that has the keyboard.
@@ -136,6 +167,18 @@ public:
     }
 
 private:
+    template <class Look>
+    void ForEachPixel(QRect area, Look look) {
+        XImage* image = XGetImage(Hand->xdpy, DefaultRootWindow(Hand->xdpy), area.x(), area.y(),
+                                  area.width(), area.height(), AllPlanes, ZPixmap);
+        if (image == nullptr)
+            throw std::runtime_error("no such place on the screen");
+        for (int y = 0; y < area.height(); ++y)
+            for (int x = 0; x < area.width(); ++x)
+                look(area.topLeft() + QPoint(x, y), XGetPixel(image, x, y));
+        XDestroyImage(image);
+    }
+
     Window FocusedWindow() {
         Window window = 0;
         int revertsTo = 0;

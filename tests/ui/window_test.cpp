@@ -10,6 +10,7 @@ namespace {
 
 constexpr unsigned Background = 0x000000; // the built-in colours
 constexpr unsigned Drawn = 0xFFFFFF;
+constexpr unsigned Text = 0x000000;
 constexpr unsigned Ghost = 0xFF0000;
 constexpr int Spacing = 25;
 
@@ -34,7 +35,11 @@ ScreenField FieldAt(QPoint first, int columns, int rows) {
 
 class RealWindow : public ::testing::Test, protected Robot {
 protected:
-    void SetUp() override { WaitForFocus("Quiblink"); }
+    void SetUp() override {
+        for (const auto& file : std::filesystem::directory_iterator(QUIBLINK_DATA))
+            std::filesystem::create_symlink(file, file.path().filename());
+        WaitForFocus("Quiblink");
+    }
 
     void TearDown() override { EXPECT_EQ(StandardError(), ""); }
 
@@ -152,14 +157,50 @@ TEST_F(RealWindow, AnswersItsMenusByAccessKeyAndEndsWithinASecondBehindADialog) 
     StartGame("alt+g a", 4, 4); // Game, Auto
     Await("an automatic game", [&] { return CountDrawn() >= 16; });
     Use("ctrl+x", "Exit the Game", "Escape");
-    Open("ctrl+y", "Quiblink History");
-    Click(FocusedArea().bottomRight() - QPoint(50, 25)); // its Ok
+    const QSize size = FocusedArea().size();
+    Resize(size + QSize(80, 60));
+    Await("the field in its new place",
+          [&] { return FocusedArea().size() != size && FindField(4, 4) && CountDrawn() >= 16; });
+    Open("ctrl+h", "Quiblink Help");
+    Await("the help", [&] { return AreaOf(Text).height() > 100; });
+    Press("Return");
     WaitForFocus("Quiblink");
 
     const QRect window = FocusedArea();
     Open("ctrl+r", "Define Playing Grid");
     Click(window.topRight() - QPoint(10, 10)); // the close box above it
     EXPECT_EQ(WaitForExit(1000), 0);
+}
+
+TEST_F(RealWindow, DrawsADocumentAndOpensAGameByPointer) {
+    // A centred, an indented and a large block, the last in the second of two columns.
+    std::filesystem::remove("qblnkhst.rtf");
+    PutBytes("qblnkhst.rtf",
+             "{\\rtf1{\\colortbl;\\red255;\\green255;\\blue255;}"
+             "\\fs40\\qc\\cf1\\u9608?\\par\\pard\\li1500\\cf2\\u9608?\\par"
+             "\\trowd\\cellx3000\\cellx6000\\pard\\cf3\\cell\\fs80\\u9608?\\cell\\row}");
+    Open("ctrl+y", "Quiblink History");
+    Await("the history", [&] { return !AreaOf(0x0000FF).isEmpty(); });
+    const QRect window = FocusedArea();
+    const QRect centred = AreaOf(0xFF0000);
+    const QRect indented = AreaOf(0x00FF00);
+    const QRect inCell = AreaOf(0x0000FF);
+    EXPECT_NEAR(centred.center().x(), window.center().x(), 12);
+    EXPECT_NEAR(indented.left(), window.left() + 114, 6);
+    EXPECT_NEAR(inCell.left(), window.center().x(), 12);
+    EXPECT_NEAR(inCell.height(), 2 * centred.height(), 2);
+    EXPECT_TRUE(indented.top() > centred.bottom() && inCell.top() > indented.bottom());
+    Click(window.bottomRight() - QPoint(50, 25)); // its Ok
+    WaitForFocus("Quiblink");
+
+    StartGame("ctrl+d", 10, 10);
+    Use("ctrl+s", "Save a Quibs Game", "s t o r y Return");
+    QuitGame();
+    Open("ctrl+o", "Open a Quibs Game");
+    const QRect dialog = FocusedArea();
+    DoubleClick({dialog.center().x() + 40, dialog.top() + 25}); // the first game in the list
+    WaitForFocus("Quiblink");
+    Await("the saved lines", [&] { return CountDrawn() > 60; });
 }
 
 TEST_F(RealWindow, NeedsNoPointerForAWholeGameItsDialogsAndItsFiles) {
@@ -199,6 +240,26 @@ TEST_F(RealWindow, NeedsNoPointerForAWholeGameItsDialogsAndItsFiles) {
     Await("the colour of the first run", [&] { return ShownBackground() == 0x0000AA; });
     Press("ctrl+x");
     EXPECT_EQ(WaitForExit(), 0);
+}
+
+TEST_F(RealWindow, ForgetsNothingOfTheBoardAndStaysOnTheScreenWhenBothBecomeSmaller) {
+    ResizeWindow({900, 700});
+    Use("ctrl+r", "Define Playing Grid", "End Tab 4 Return");
+    StartGame("ctrl+d", 34, 4);
+    const QPoint farAcross = Field.Points.at(22) - FocusedArea().topLeft();
+    for (const int width : {560, 600}) { // neither shows the whole field, the second more of it
+        ResizeWindow({width, 700});
+        WaitForFocus("Quiblink Resize Warning");
+        Press("Return");
+        WaitForFocus("Quiblink");
+    }
+    const QPoint shown = FocusedArea().topLeft() + farAcross;
+    Await("what was outside", [&] { return PixelAt(shown) == Drawn; });
+
+    ShrinkScreen();
+    Await("the window on the smaller screen", [&] {
+        return FocusedTitle() == "Quiblink" && QRect(0, 0, 800, 500).contains(FocusedArea());
+    });
 }
 
 } // namespace

@@ -3,12 +3,13 @@
 
 #include <QAccessible>
 #include <QApplication>
-#include <QMessageBox>
 #include <QScreen>
 #include <QTime>
 #include <QTimer>
 #include <cmath>
 #include <utility>
+
+#include "platform/qt/message_dialog.h"
 
 namespace {
 
@@ -17,29 +18,6 @@ constexpr double TwipsPerInch = 1440;
 constexpr double LogicalPixelsPerInch = 96;
 
 MainWindowActions mainWindow;
-
-QMessageBox::Icon ToQt(MessageIcon icon) {
-    switch (icon) {
-    case MessageIcon::Exclamation:
-        return QMessageBox::Warning;
-    case MessageIcon::Question:
-        return QMessageBox::Question;
-    case MessageIcon::None:
-        break;
-    }
-    return QMessageBox::NoIcon;
-}
-
-MessageAnswer FromQt(int button) {
-    switch (button) {
-    case QMessageBox::Yes:
-        return MessageAnswer::Yes;
-    case QMessageBox::No:
-        return MessageAnswer::No;
-    default:
-        return MessageAnswer::Ok;
-    }
-}
 
 } // namespace
 
@@ -70,15 +48,13 @@ void YieldToEvents(float atMostSeconds) {
 MessageAnswer ShowMessageBox(const std::string& text, const std::string& title, MessageIcon icon,
                              MessageButtons buttons) {
     mainWindow.ShowControls();
-    QMessageBox box(QApplication::activeWindow());
-    box.setWindowModality(Qt::ApplicationModal);
-    box.setWindowTitle(QString::fromStdString(title));
-    box.setTextFormat(Qt::PlainText);
-    box.setText(QString::fromStdString(text).remove('\r'));
-    box.setIcon(ToQt(icon));
-    box.setStandardButtons(buttons == MessageButtons::YesNo ? QMessageBox::Yes | QMessageBox::No
-                                                            : QMessageBox::Ok);
-    return FromQt(box.exec());
+    QWidget* active = QApplication::activeWindow();
+    MessageDialog box(active != nullptr ? active : mainWindow.Window, QString::fromStdString(text),
+                      QString::fromStdString(title), icon, buttons);
+    const bool isAccepted = box.exec() == QDialog::Accepted;
+    if (buttons == MessageButtons::Ok)
+        return MessageAnswer::Ok;
+    return isAccepted ? MessageAnswer::Yes : MessageAnswer::No;
 }
 
 bool IsListenedTo() {

@@ -5,7 +5,11 @@
 
 #include "platform/desktop.h"
 
+class QWidget;
+
 struct MainWindowActions {
+    // Message boxes are centred on it where no window of the program is active.
+    QWidget* Window = nullptr;
     // Brings the window up to date with the controls' data. Called before every yield and box.
     std::function<void()> ShowControls = [] {};
     std::function<void(const std::string&)> Say = [](const std::string&) {};

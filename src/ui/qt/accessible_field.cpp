@@ -46,10 +46,14 @@ private:
 class AccessibleField : public QAccessibleWidget {
 public:
     explicit AccessibleField(QWidget* field) : QAccessibleWidget(field, QAccessible::Canvas) {
-        for (Saying*& saying : Sayings) {
-            saying = new Saying(this);
-            QAccessible::registerAccessibleInterface(saying); // which owns it from now on
+        for (std::size_t i = 0; i < Sayings.size(); ++i) {
+            Sayings.at(i) = new Saying(this);
+            Ids.at(i) = QAccessible::registerAccessibleInterface(Sayings.at(i)); // it owns them
         }
+    }
+    ~AccessibleField() override {
+        for (const QAccessible::Id saying : Ids)
+            QAccessible::deleteAccessibleInterface(saying);
     }
 
     int PutIntoWords(const QString& text) {
@@ -76,6 +80,7 @@ public:
 
 private:
     std::array<Saying*, 2> Sayings{};
+    std::array<QAccessible::Id, 2> Ids{};
 };
 
 QAccessibleInterface* AccessibleFieldOf(const QString& /*className*/, QObject* object) {

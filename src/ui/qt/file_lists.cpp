@@ -4,6 +4,7 @@
 #include <QGridLayout>
 #include <QKeyEvent>
 #include <QListWidget>
+#include <QPainter>
 #include <QStyle>
 #include <QTimer>
 
@@ -20,8 +21,27 @@ List* Named(List* list, const char* objectName, const char* accessibleName) {
     return list;
 }
 
+// Framed like a line edit when it has the focus: an empty list would not show it at all.
+class FramedList : public QListWidget {
+public:
+    using QListWidget::QListWidget;
+
+protected:
+    bool event(QEvent* event) override {
+        const bool isHandled = QListWidget::event(event);
+        if (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut)
+            update();
+        if (event->type() == QEvent::Paint && hasFocus()) {
+            QPainter painter(this);
+            painter.setPen(palette().color(QPalette::Highlight));
+            painter.drawRect(rect().adjusted(0, 0, -1, -1));
+        }
+        return isHandled;
+    }
+};
+
 QListWidget* MakeList(QWidget* parent, const char* objectName, const char* accessibleName) {
-    auto* list = Named(new QListWidget(parent), objectName, accessibleName);
+    auto* list = Named<QListWidget>(new FramedList(parent), objectName, accessibleName);
     list->setMinimumSize(SmallestList);
     list->setUniformItemSizes(true);
     return list;

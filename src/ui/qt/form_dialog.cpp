@@ -7,18 +7,15 @@
 #include "ui/commands.h"
 
 FormDialog::FormDialog(QWidget* parent, const char* objectName, const char* caption)
-    : QDialog(parent) {
+    : PlacedDialog(parent) {
     setObjectName(objectName);
     setWindowTitle(caption);
 }
 
 void FormDialog::OpenOrRaise() {
-    if (!isVisible()) {
+    if (!isVisible())
         Form_Load();
-        show();
-    }
-    raise();
-    activateWindow();
+    ShowAndRaise();
 }
 
 void FormDialog::SetContent(QLayout* content) {

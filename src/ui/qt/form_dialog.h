@@ -2,12 +2,12 @@
 // game, store their choices on Ok and forget them on Cancel.
 #pragma once
 
-#include <QDialog>
+#include "ui/qt/window_place.h"
 
 class QLayout;
 class QPushButton;
 
-class FormDialog : public QDialog {
+class FormDialog : public PlacedDialog {
     Q_OBJECT
 
 public:

@@ -19,7 +19,7 @@ RichText ReadDocument(const char* name) {
 
 } // namespace
 
-HelpViewer::HelpViewer(QWidget* parent) : QDialog(parent), rtfHelp(new QTextBrowser(this)) {
+HelpViewer::HelpViewer(QWidget* parent) : PlacedDialog(parent), rtfHelp(new QTextBrowser(this)) {
     setObjectName("frmHelp");
     setWindowTitle("Quiblink Help");
     rtfHelp->setObjectName("rtfHelp");
@@ -39,10 +39,8 @@ HelpViewer::HelpViewer(QWidget* parent) : QDialog(parent), rtfHelp(new QTextBrow
 }
 
 void HelpViewer::OpenOrRaise() {
-    show(); // first: else the text is laid out for hardly any width before it is for this one
+    ShowAndRaise(); // first: else the text is laid out for hardly any width before it is for this
     Form_Load();
-    raise();
-    activateWindow();
 }
 
 void HelpViewer::Form_Load() {

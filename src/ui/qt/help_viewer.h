@@ -1,11 +1,11 @@
 // Shows the help or the history document of the current directory.
 #pragma once
 
-#include <QDialog>
+#include "ui/qt/window_place.h"
 
 class QTextBrowser;
 
-class HelpViewer : public QDialog {
+class HelpViewer : public PlacedDialog {
     Q_OBJECT
 
 public:

@@ -45,24 +45,30 @@ QRect ToPixels(const Rectangle& twips) {
             ToPixels(twips.Height, Game.TwipsPerPixelY)};
 }
 
+// Makes the dialog when it is first asked for, so that the program starts without it.
+template <class Dialog>
+void OpenOrRaise(Dialog*& dialog, QWidget* parent) {
+    if (dialog == nullptr)
+        dialog = new Dialog(parent);
+    dialog->OpenOrRaise();
+}
+
 } // namespace
 
 MainWindow::MainWindow()
     : tbrToolBar(new QToolBar(this)), ClientArea(new QWidget(this)),
-      picPlayingField(new PlayingField(ClientArea)), fraStatistics(new StatusFrame(ClientArea)),
-      frmFileOpen(new OpenDialog(this)), frmFileSave(new SaveDialog(this)),
-      frmDefineGrid(new GridDialog(this)), frmDefinePlayers(new PlayersDialog(this)),
-      frmHelp(new HelpViewer(this)) {
+      picPlayingField(new PlayingField(ClientArea)), fraStatistics(new StatusFrame(ClientArea)) {
     setObjectName("frmQuibsMain");
     setWindowTitle("Quiblink");
-    setWindowIcon(ColoredIcon(":/icons/quiblink.svg"));
+    QApplication::setWindowIcon(ColoredIcon(":/icons/quiblink.svg"));
     setCentralWidget(ClientArea);
     ClientArea->installEventFilter(this);
     fraStatistics->installEventFilter(this);
     picPlayingField->setFocus();
     BuildMenus();
     BuildToolBar();
-    UseMainWindow({.ShowControls = [this] { ShowControls(); },
+    UseMainWindow({.Window = this,
+                   .ShowControls = [this] { ShowControls(); },
                    .Say =
                        [this](const std::string& text) {
                            picPlayingField->Say(QString::fromStdString(text));
@@ -99,7 +105,7 @@ bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
         setMinimumSize(SizeAround(SmallestPicture)); // the frame follows the desktop's font
         LayOut();
     }
-    if (watched == windowHandle() && event->type() == QEvent::Expose) {
+    if (event->type() == QEvent::Expose) {
         watched->removeEventFilter(this);
         TakeFrame();
     }
@@ -205,7 +211,10 @@ void MainWindow::TakeFrame() {
 }
 
 void MainWindow::FollowScreens() {
-    const auto keep = [this] { KeepOnScreen(*this); };
+    const auto keep = [this] {
+        fraStatistics->TakeSize();
+        KeepOnScreen(*this);
+    };
     const auto follow = [this, keep](QScreen* screen) {
         connect(screen, &QScreen::availableGeometryChanged, this, keep);
     };
@@ -251,9 +260,9 @@ void MainWindow::ShowControls() {
             Actions.at(i)->setChecked(Shown.Commands.at(i).Checked);
     }
     // A game may neither be opened nor saved any more: a dialog left open must not do it either.
-    if (!IsEnabled(Command::Open))
+    if (frmFileOpen != nullptr && !IsEnabled(Command::Open))
         frmFileOpen->reject();
-    if (!IsEnabled(Command::Save))
+    if (frmFileSave != nullptr && !IsEnabled(Command::Save))
         frmFileSave->reject();
     picPlayingField->ShowControls();
     fraStatistics->ShowControls();
@@ -272,14 +281,14 @@ void MainWindow::PostCommand(Command command) {
 void MainWindow::ShowForm(Form form) {
     switch (form) {
     case Form::FileOpen:
-        return frmFileOpen->OpenOrRaise();
+        return OpenOrRaise(frmFileOpen, this);
     case Form::FileSave:
-        return frmFileSave->OpenOrRaise();
+        return OpenOrRaise(frmFileSave, this);
     case Form::DefineGrid:
-        return frmDefineGrid->OpenOrRaise();
+        return OpenOrRaise(frmDefineGrid, this);
     case Form::DefinePlayers:
-        return frmDefinePlayers->OpenOrRaise();
+        return OpenOrRaise(frmDefinePlayers, this);
     case Form::Help:
-        return frmHelp->OpenOrRaise();
+        return OpenOrRaise(frmHelp, this);
     }
 }

@@ -9,11 +9,14 @@
 #include "platform/controls.h"
 #include "platform/desktop.h"
 
-class FormDialog;
+class GridDialog;
 class HelpViewer;
+class OpenDialog;
+class PlayersDialog;
 class PlayingField;
 class QAction;
 class QMenu;
+class SaveDialog;
 class StatusFrame;
 
 class MainWindow : public QMainWindow {
@@ -58,11 +61,12 @@ private:
     QWidget* ClientArea;
     PlayingField* picPlayingField;
     StatusFrame* fraStatistics;
-    FormDialog* frmFileOpen;
-    FormDialog* frmFileSave;
-    FormDialog* frmDefineGrid;
-    FormDialog* frmDefinePlayers;
-    HelpViewer* frmHelp;
+    // Made on first use.
+    OpenDialog* frmFileOpen = nullptr;
+    SaveDialog* frmFileSave = nullptr;
+    GridDialog* frmDefineGrid = nullptr;
+    PlayersDialog* frmDefinePlayers = nullptr;
+    HelpViewer* frmHelp = nullptr;
     MainWindowControls Shown;
     QTimer ResizeRest; // runs while the field does not fit, until the user is warned
 };

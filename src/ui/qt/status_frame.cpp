@@ -3,6 +3,7 @@
 #include <QEvent>
 #include <QGridLayout>
 #include <QPainter>
+#include <QScreen>
 #include <algorithm>
 
 #include "platform/controls.h"
@@ -12,6 +13,7 @@
 namespace {
 
 constexpr int SmallestWidth = 540; // pixels, as the lengths below
+constexpr int RoomBeside = 32;     // for the window's margins and borders
 constexpr int Margin = 14;
 constexpr int RoomBetweenColumns = 10;
 constexpr int BandMargin = 6; // beside the marked line
@@ -81,7 +83,11 @@ void StatusFrame::TakeSize() {
     if (grid->rowMinimumHeight(TurnRow) != turnHeight)
         grid->setRowMinimumHeight(TurnRow, turnHeight);
     const QSize needed = grid->totalMinimumSize();
-    setFixedSize(std::max(SmallestWidth, needed.width()), needed.height());
+    int width = std::max(SmallestWidth, needed.width());
+    const int screenWidth = screen()->availableSize().width();
+    if (screenWidth > RoomBeside) // a screen that is being changed may have no size at all
+        width = std::min(width, screenWidth - RoomBeside);
+    setFixedSize(width, needed.height());
 }
 
 bool StatusFrame::event(QEvent* event) {

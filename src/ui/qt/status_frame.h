@@ -16,13 +16,14 @@ public:
 
     void ShowControls();
 
+    // To be called when the screen has changed; what changes the texts' size does it by itself.
+    void TakeSize();
+
 protected:
     bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    void TakeSize();
-
     Swatch* shpPlayer1Status;
     Swatch* shpPlayer2Status;
     Swatch* shpPlayer1Active;

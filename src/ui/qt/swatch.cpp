@@ -2,12 +2,13 @@
 
 #include <QColorDialog>
 #include <QPainter>
+#include <utility>
 
 #include "display/words.h"
 #include "platform/qt/qt_color.h"
 
-Swatch::Swatch(const QString& objectName, const QString& name, QWidget* parent)
-    : QLabel(parent), Name(name) {
+Swatch::Swatch(const QString& objectName, QString name, QWidget* parent)
+    : QLabel(parent), Name(std::move(name)) {
     setObjectName(objectName);
     QSizePolicy policy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     policy.setRetainSizeWhenHidden(true);

@@ -10,7 +10,7 @@ class Swatch : public QLabel {
 
 public:
     // A screen reader tells the name and the color in words: "Color of player 1: light red".
-    Swatch(const QString& objectName, const QString& name, QWidget* parent);
+    Swatch(const QString& objectName, QString name, QWidget* parent);
 
     Color FillColor() const { return Shown.FillColor; }
     void SetFillColor(Color color);

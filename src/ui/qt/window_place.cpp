@@ -14,10 +14,30 @@ void KeepOnScreen(QWidget& window) {
     if (window.isMaximized() || window.isFullScreen())
         return; // the desktop keeps such a window on the screen, and moving it would end that state
     const QRect area = window.screen()->availableGeometry();
+    if (area.isEmpty())
+        return; // the screen is being changed
     const QRect frame = window.frameGeometry();
-    const QSize borders = frame.size() - window.size();
     const QSize size = frame.size().boundedTo(area.size());
-    window.move(std::clamp(frame.left(), area.left(), area.right() + 1 - size.width()),
-                std::clamp(frame.top(), area.top(), area.bottom() + 1 - size.height()));
-    window.resize(size - borders);
+    const QRect kept(std::clamp(frame.left(), area.left(), area.right() + 1 - size.width()),
+                     std::clamp(frame.top(), area.top(), area.bottom() + 1 - size.height()),
+                     size.width(), size.height());
+    const QRect inside = window.geometry();
+    window.setGeometry(kept.adjusted(inside.left() - frame.left(), inside.top() - frame.top(),
+                                     inside.right() - frame.right(),
+                                     inside.bottom() - frame.bottom()));
+}
+
+void PlacedDialog::ShowAndRaise() {
+    if (!isVisible() && LastPlace) {
+        setGeometry(QRect(*LastPlace, size()));
+        KeepOnScreen(*this);
+    }
+    show();
+    raise();
+    activateWindow();
+}
+
+void PlacedDialog::done(int result) {
+    LastPlace = geometry().topLeft();
+    QDialog::done(result);
 }

@@ -2,7 +2,8 @@
 // is shown nobody knows how wide they are.
 #pragma once
 
-class QWidget;
+#include <QDialog>
+#include <optional>
 
 // In the middle of the whole screen.
 void CentreOnScreen(QWidget& window);
@@ -10,3 +11,20 @@ void CentreOnScreen(QWidget& window);
 // Wholly on the usable part of the screen it is on: moved there, and made smaller where it is
 // larger.
 void KeepOnScreen(QWidget& window);
+
+// Comes up where it was closed.
+class PlacedDialog : public QDialog {
+    Q_OBJECT
+
+public:
+    void done(int result) override;
+
+protected:
+    using QDialog::QDialog;
+
+    void ShowAndRaise();
+
+private:
+    std::optional<QPoint>
+        LastPlace; // inside its title bar and borders, which a hidden window has not
+};
