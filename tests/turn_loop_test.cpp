@@ -1,8 +1,6 @@
 // The waits of a game and all that may arrive in the middle of them, and the end of a game.
 #include "core/play/turn_loop.h"
 
-#include <set>
-
 #include "display/command_states.h"
 #include "support/game_test.h"
 #include "ui/commands.h"
@@ -203,6 +201,13 @@ TEST_F(TurnLoop, AsksThePersonWhomADialogPutInThePlaceOfAChoosingComputer) {
     EXPECT_TRUE(Game.ProgramEnding);
 }
 
+TEST_F(TurnLoop, EndsAFullBoardInsteadOfPausingIt) {
+    Prepare(2, ComputerCheat, Humanoid, {1, 2, 3, 4, 6, 7});
+    AfterSeconds(0.1, mnuPause_Click); // when the cheat has taken the last box itself
+    RunCommand(Command::Start);
+    ExpectPlayedToTheEnd();
+}
+
 TEST_F(TurnLoop, TellsTheEndOfAGameAndBlinksForThreeSecondsUndisturbed) {
     const struct {
         Integer Kind;
@@ -238,20 +243,6 @@ TEST_F(TurnLoop, TellsTheEndOfAGameAndBlinksForThreeSecondsUndisturbed) {
         EXPECT_EQ(Game.ComputerWinSounds.Next, c.ComputerSounds);
         ExpectPlayedToTheEnd();
     }
-}
-
-TEST_F(TurnLoop, StartsGamesDuringBlinksOnOneStack) {
-    Game.GridColumns = Game.GridRows = 1;
-    std::set<void*> frames;
-    TheNullDesktop.WhenYielding = [&] {
-        if (!Game.GameOverShown || Game.CommandAfterGameOver)
-            return;
-        frames.insert(__builtin_frame_address(0));
-        RunCommand(Command::Auto);
-        Game.ProgramEnding = TheNullDesktop.Yields > 100;
-    };
-    RunCommand(Command::Start);
-    EXPECT_EQ(frames.size(), 1U);
 }
 
 TEST_F(TurnLoop, TakesExchangeOnlyForAPreparedGame) {
