@@ -33,7 +33,7 @@ constexpr int IconSize = 24;
 // Of the picture, in spacings: room for two boxes, and for ten with a calm margin.
 constexpr int SmallestPicture = 3;
 constexpr int InitialPicture = 15;
-constexpr int ResizeRestMilliseconds = 400; // without a new size: the user has let the border go
+constexpr int RestMilliseconds = 400; // then the user or the desktop has done with the border
 
 int ToPixels(int twips, int twipsPerPixel) {
     return static_cast<int>(std::lround(static_cast<double>(twips) / twipsPerPixel));
@@ -78,7 +78,7 @@ MainWindow::MainWindow()
     connect(picPlayingField, &PlayingField::PictureOutdated, this, &MainWindow::LayOut,
             Qt::QueuedConnection);
     ResizeRest.setSingleShot(true);
-    ResizeRest.setInterval(ResizeRestMilliseconds);
+    ResizeRest.setInterval(RestMilliseconds);
     connect(&ResizeRest, &QTimer::timeout, this, [] { RunGuarded(ShowResizeWarning); });
 }
 
@@ -100,10 +100,18 @@ void MainWindow::closeEvent(QCloseEvent* event) {
         EndProgram();
 }
 
+void MainWindow::changeEvent(QEvent* event) {
+    QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::WindowStateChange)
+        KeepOnScreenSoon(); // the screen may have shrunk while the window was maximised
+}
+
 bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::Resize) {
         setMinimumSize(SizeAround(SmallestPicture)); // the frame follows the desktop's font
         LayOut();
+        if (watched == fraStatistics)
+            KeepOnScreenSoon(); // it may have grown wider
     }
     if (event->type() == QEvent::Expose) {
         watched->removeEventFilter(this);
@@ -208,6 +216,10 @@ void MainWindow::TakeFrame() {
     if (!isMaximized())
         CentreOnScreen(*this);
     KeepOnScreen(*this);
+}
+
+void MainWindow::KeepOnScreenSoon() {
+    QTimer::singleShot(RestMilliseconds, this, [this] { KeepOnScreen(*this); });
 }
 
 void MainWindow::FollowScreens() {

@@ -32,6 +32,7 @@ public:
     void EndProgram();
 
 protected:
+    void changeEvent(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
@@ -46,6 +47,8 @@ private:
     // Now that the desktop has put a title bar and borders around the window.
     void TakeFrame();
     void FollowScreens();
+    // When the desktop has done with a change of the window's size.
+    void KeepOnScreenSoon();
     // Of a window as wide as the status frame asks for, around a picture of so many spacings'
     // height.
     QSize SizeAround(int pictureSpacings) const;

@@ -14,6 +14,7 @@ namespace {
 
 constexpr int SmallestWidth = 540; // pixels, as the lengths below
 constexpr int RoomBeside = 32;     // for the window's margins and borders
+constexpr double SmallestFont = 8; // points
 constexpr int Margin = 14;
 constexpr int RoomBetweenColumns = 10;
 constexpr int BandMargin = 6; // beside the marked line
@@ -78,21 +79,37 @@ StatusFrame::StatusFrame(QWidget* parent)
 }
 
 void StatusFrame::TakeSize() {
+    const int screenWidth = screen()->availableSize().width();
+    if (screenWidth > RoomBeside) // a screen that is being changed may have no size at all
+        TakeFont(screenWidth - RoomBeside);
     auto* grid = static_cast<QGridLayout*>(layout());
     const int turnHeight = lblPlayer1Active->sizeHint().height(); // also when no caption shows
     if (grid->rowMinimumHeight(TurnRow) != turnHeight)
         grid->setRowMinimumHeight(TurnRow, turnHeight);
     const QSize needed = grid->totalMinimumSize();
-    int width = std::max(SmallestWidth, needed.width());
-    const int screenWidth = screen()->availableSize().width();
-    if (screenWidth > RoomBeside) // a screen that is being changed may have no size at all
-        width = std::min(width, screenWidth - RoomBeside);
-    setFixedSize(width, needed.height());
+    setFixedSize(std::max(SmallestWidth, needed.width()), needed.height());
+}
+
+void StatusFrame::TakeFont(int room) {
+    const auto take = [this](const QFont& font) {
+        setFont(font);
+        layout()->activate(); // else the row of the captions keeps its old size
+    };
+    if (room != Room || parentWidget()->font() != DesktopFont) {
+        Room = room;
+        DesktopFont = parentWidget()->font();
+        take(QFont());
+    }
+    QFont smaller = font();
+    while (layout()->totalMinimumSize().width() > room && smaller.pointSizeF() > SmallestFont) {
+        smaller.setPointSizeF(smaller.pointSizeF() - 1);
+        take(smaller);
+    }
 }
 
 bool StatusFrame::event(QEvent* event) {
     const bool isHandled = QFrame::event(event);
-    if (event->type() == QEvent::LayoutRequest)
+    if (event->type() == QEvent::LayoutRequest || event->type() == QEvent::ApplicationFontChange)
         TakeSize();
     return isHandled;
 }

@@ -7,7 +7,7 @@ class StatusLabel;
 class Swatch;
 
 // As wide as its widest texts in the desktop's font, and never narrower than a good deal. It has a
-// fixed size, which changes with the font.
+// fixed size, which changes with the font. Where the screen is too narrow its font is smaller.
 class StatusFrame : public QFrame {
     Q_OBJECT
 
@@ -24,6 +24,11 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    // The desktop's, or a smaller one in which every text has room.
+    void TakeFont(int room);
+
+    int Room = 0; // pixels
+    QFont DesktopFont;
     Swatch* shpPlayer1Status;
     Swatch* shpPlayer2Status;
     Swatch* shpPlayer1Active;

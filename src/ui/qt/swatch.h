@@ -20,6 +20,7 @@ public:
 
     // As high as a line of text.
     QSize sizeHint() const override;
+    QSize minimumSizeHint() const override { return sizeHint(); } // a label keeps an old font's
 
 protected:
     void paintEvent(QPaintEvent* event) override;

@@ -21,6 +21,8 @@ void KeepOnScreen(QWidget& window) {
     const QRect kept(std::clamp(frame.left(), area.left(), area.right() + 1 - size.width()),
                      std::clamp(frame.top(), area.top(), area.bottom() + 1 - size.height()),
                      size.width(), size.height());
+    if (kept == frame)
+        return;
     const QRect inside = window.geometry();
     window.setGeometry(kept.adjusted(inside.left() - frame.left(), inside.top() - frame.top(),
                                      inside.right() - frame.right(),
