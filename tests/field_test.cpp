@@ -54,8 +54,6 @@ TEST_F(Field, IsCentredAndLoweredToWhatFits) {
         EXPECT_TRUE(FieldColumns() == c.Columns && FieldRows() == c.Rows) << c.Width;
         EXPECT_EQ(Game.BoxCount, c.Columns * c.Rows);
         EXPECT_TRUE(Game.FieldLeft == c.Left && Game.FieldTop == c.Top) << c.Width;
-        EXPECT_EQ(Game.FieldRight, c.Left + c.Columns * 300);
-        EXPECT_EQ(Game.FieldBottom, c.Top + c.Rows * 375);
     }
 }
 
@@ -113,19 +111,6 @@ TEST_F(Field, ThatNoLongerFitsIsLeftWhereItWasAndWarnedOfDuringAGame) {
     EXPECT_FALSE(Form_Resize()) << "one warning at a time";
     Game.ResizeWarningShown = Game.GameInPlay = false;
     EXPECT_FALSE(Form_Resize()) << "no game to warn of";
-}
-
-TEST_F(Field, IsFilledWithSafeLinesUntilNoneIsLeft) {
-    for (const auto& [columns, rows] : {std::pair{3, 2}, {1, 1}, {7, 4}, {2, 9}}) {
-        SetUpGame(columns, rows, Humanoid, Humanoid);
-        DrawForNobody({1});
-        DrawSafeLines();
-        EXPECT_TRUE(BoardIsSound());
-        for (const Box& box : Game.Boxes)
-            EXPECT_LE(box.SidesDrawn, 2);
-        for (const int line : UndrawnLines())
-            EXPECT_FALSE(IsSafeLine(line)) << line;
-    }
 }
 
 } // namespace

@@ -1,7 +1,7 @@
 // Files on a disk that is full, in directories of others, and under a program that is killed.
 #include "base/files.h"
 
-#include <sys/resource.h>
+#include <sys/prctl.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -20,13 +20,7 @@ protected:
     static void ReplaceBy(const std::string& text) { FileReplacement(File).Write(text); }
 
     static void ReplaceOnFullDisk(const std::string& text) {
-        std::signal(SIGXFSZ, SIG_IGN);
-        rlimit before{};
-        getrlimit(RLIMIT_FSIZE, &before);
-        const rlimit full{text.size() / 2, before.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &full);
-        EXPECT_THROW(ReplaceBy(text), std::runtime_error);
-        setrlimit(RLIMIT_FSIZE, &before);
+        OnFullDisk(text.size() / 2, [&] { EXPECT_THROW(ReplaceBy(text), std::runtime_error); });
     }
 
     static long CountFiles() { return std::distance(std::filesystem::directory_iterator("."), {}); }
@@ -68,6 +62,8 @@ TEST_F(Files, AreWholeWhileCopiesOfTheProgramWriteThemAndAreKilled) {
         std::vector<pid_t> copies;
         for (const char letter : {'a', 'b', 'c'}) {
             copies.push_back(fork());
+            if (copies.back() == 0)
+                prctl(PR_SET_PDEATHSIG, SIGKILL);
             while (copies.back() == 0)
                 ReplaceBy(whole(letter));
         }

@@ -2,11 +2,8 @@
 #include "ai/move_selection.h"
 
 #include <map>
-#include <utility>
 
-#include "base/random.h"
 #include "support/game_test.h"
-#include "support/person.h"
 
 namespace {
 
@@ -69,27 +66,6 @@ TEST_F(MoveSelection, GivesAwayTheFewestBoxesAndTwoByTheLineBetweenThemIfStrong)
             EXPECT_NEAR(TheNullDesktop.SecondsWaited, 400 * pause, 400 * 0.02);
         }
     }
-}
-
-TEST_F(MoveSelection, EndsEveryTurnOnAnyBoardWithAnUndrawnLine) {
-    for (const auto& [columns, rows] :
-         {std::pair{3, 2}, {2, 5}, {4, 2}, {1, 6}, {5, 1}, {1, 1}, {2, 2}, {7, 4}, {4, 4}})
-        for (std::uint32_t seed = 1; seed <= 1000; ++seed) {
-            SCOPED_TRACE(::testing::Message() << columns << " by " << rows << ", seed " << seed);
-            const auto kind = ToInteger(static_cast<int>(seed % 4));
-            SetUpGame(columns, rows, kind, ComputerAverage);
-            DrawRandomPosition(seed / 4);
-            if (seed % 10 == 0)
-                Game.LastLine = 0; // as after a load
-            const GameState before = Game;
-            Game.HintMode = seed % 3 == 0 || kind == Humanoid;
-            ASSERT_NO_THROW(ChooseComputerMove());
-            ASSERT_EQ(Game.ChosenLine == 0, Game.BoxesClaimed == Game.BoxCount);
-            ASSERT_TRUE(Game.Lines.at(Game.ChosenLine).Drawn == 0 && Game.CurrentPlayer == 1);
-            ASSERT_TRUE(BoardIsSound());
-            Game.ChosenLine = before.ChosenLine;
-            ASSERT_TRUE(!std::exchange(Game.HintMode, false) || Game == before);
-        }
 }
 
 } // namespace

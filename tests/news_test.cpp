@@ -8,25 +8,6 @@ using Sayings = std::vector<std::string>;
 
 class News : public GameTest {};
 
-TEST_F(News, SayWhereALineLiesAndWhatItWouldDo) {
-    const struct {
-        std::vector<int> Drawn; // on 3 by 2 boxes
-        int Line;
-        const char* Words;
-    } cases[] = {{{}, 8, "across, row 3, column 2, free"},
-                 {{1, 4, 10, 2, 5, 14}, 12, "down, row 1, column 2, closes two boxes"},
-                 {{4, 7, 5, 8}, 13, "down, row 2, column 2, gives two boxes away"}};
-    for (const auto& c : cases) {
-        StartFresh();
-        SetUpGame(3, 2, Humanoid, Humanoid);
-        Game.MouseDownSeen = false;
-        DrawForNobody(c.Drawn);
-        PointAt(c.Line);
-        picPlayingField_MouseMove(Game.PointerX + 1, Game.PointerY); // says nothing new
-        EXPECT_EQ(TheNullDesktop.Sayings, Sayings{c.Words});
-    }
-}
-
 TEST_F(News, TellATurnInOneText) {
     SetUpGame(2, 1, Humanoid, ComputerAverage);
     DrawForNobody({1, 2, 3});
@@ -35,7 +16,9 @@ TEST_F(News, TellATurnInOneText) {
     TheNullDesktop.WhenIdle = [turn = 0]() mutable {
         if (++turn == 2)
             return mnuPause_Click();
-        PressLine(turn == 1 ? 5 : UndrawnLines().front());
+        PointAt(turn == 1 ? 5 : UndrawnLines().front());
+        picPlayingField_MouseMove(Game.PointerX + 1, Game.PointerY); // says nothing new
+        picPlayingField_MouseDown();
     };
     RunCommand(Command::Start);
     RunCommand(Command::Start);
@@ -49,16 +32,11 @@ TEST_F(News, TellATurnInOneText) {
                        "Colossus took a box. Colossus 1, Guardian 1. It's A Draw."}));
 }
 
-TEST_F(News, TellOfAGameBetweenComputersOnlyTheScoreNowAndThenAndNothingIfNobodyListens) {
-    for (const bool isListenedTo : {false, true}) {
-        TheNullDesktop.IsListenedTo = isListenedTo;
-        TheNullDesktop.SecondsWaited = 0;
-        RunCommand(Command::Start);
-        EXPECT_EQ(TheNullDesktop.Sayings.size() > 3, isListenedTo);
-        EXPECT_LT(TheNullDesktop.Sayings.size(), 3 + TheNullDesktop.SecondsWaited / 15);
-    }
+TEST_F(News, OfAGameBetweenComputersAreTheScoreNowAndThen) {
+    RunCommand(Command::Start);
+    EXPECT_GT(TheNullDesktop.Sayings.size(), 3U);
+    EXPECT_LT(TheNullDesktop.Sayings.size(), 3 + TheNullDesktop.SecondsWaited / 15);
     EXPECT_EQ(TheNullDesktop.Sayings.at(1).find("drew"), std::string::npos);
-    EXPECT_NE(TheNullDesktop.Sayings.back().find("The Winner Is: "), std::string::npos);
 }
 
 } // namespace

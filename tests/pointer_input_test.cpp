@@ -70,28 +70,6 @@ TEST_F(Pointer, PreviewsTheLineWithinFourPixelsSevenFromItsFirstPointAndSixFromI
     }
 }
 
-TEST_F(Pointer, LeavesNoGhostBehindAndNeverTouchesADrawnLine) {
-    DrawForNobody({1});
-    Game.ComputerGhostLine = 1;
-    Game.CurrentPlayer = 2; // even during the computer's turn
-    MoveTo(12, 12);
-    EXPECT_EQ(Last(), (Drawing{Drawing::Kind::Line, Game.FieldLeft, Game.FieldTop,
-                               Game.FieldLeft + 300, Game.FieldTop, BrightWhite}))
-        << "the computer's line is highlighted no more";
-    EXPECT_EQ(Game.ComputerGhostLine, 0);
-    Game.CurrentPlayer = 1;
-    MoveTo(37, 25);
-    EXPECT_EQ(Last(), (Drawing{Drawing::Kind::Line, Game.FieldLeft + 312, Game.FieldTop + 375,
-                               Game.FieldLeft + 588, Game.FieldTop + 375, LightRed}));
-    MoveTo(12, 12);
-    EXPECT_EQ(Last(), (Drawing{Drawing::Kind::Erasure, Game.FieldLeft + 312, Game.FieldTop + 375,
-                               Game.FieldLeft + 588, Game.FieldTop + 375, Black}));
-    const std::size_t drawings = TheNullDesktop.Drawings.size();
-    PointAt(1);
-    EXPECT_EQ(Game.GhostLine, 0);
-    EXPECT_EQ(TheNullDesktop.Drawings.size(), drawings);
-}
-
 TEST_F(Pointer, ShowsAndTakesNothingUnlessAPersonIsAwaited) {
     void (*const hindrances[])() = {
         [] { Game.GameInPlay = false; },   [] { Game.GamePaused = true; },
@@ -179,15 +157,14 @@ TEST_F(Pointer, AndKeysTakeOverFromEachOther) {
     PressKeys("R");
     picPlayingField_MouseMove(Game.PointerX, Game.PointerY);
     EXPECT_EQ(Game.GhostLine, 2) << "the pointer lies still";
+    MoveTo(12, 12);
+    PressKeys("L");
+    EXPECT_EQ(Game.GhostLine, 2) << "where the last one was";
     PointAt(4);
     Game.ComputerGhostLine = 9;
     PressKeys("D");
     picPlayingField_KeyDown(FieldKey::Draw);
     EXPECT_TRUE(Game.ChosenLine == 7 && Game.ComputerGhostLine == 0);
-    Game.Lines.at(7).Drawn = 7;
-    Game.MouseDownSeen = false;
-    PressKeys("L");
-    EXPECT_EQ(Game.GhostLine, 4) << "near the last one";
 }
 
 TEST_F(Pointer, IsNotNeededForAnyLineOfAField) {

@@ -1,8 +1,6 @@
 // The waits of a game and all that may arrive in the middle of them, and the end of a game.
 #include "core/play/turn_loop.h"
 
-#include <set>
-
 #include "display/command_states.h"
 #include "support/game_test.h"
 #include "ui/commands.h"
@@ -203,6 +201,13 @@ TEST_F(TurnLoop, AsksThePersonWhomADialogPutInThePlaceOfAChoosingComputer) {
     EXPECT_TRUE(Game.ProgramEnding);
 }
 
+TEST_F(TurnLoop, EndsAFullBoardInsteadOfPausingIt) {
+    Prepare(2, ComputerCheat, Humanoid, {1, 2, 3, 4, 6, 7});
+    AfterSeconds(0.1, mnuPause_Click); // when the cheat has taken the last box itself
+    RunCommand(Command::Start);
+    ExpectPlayedToTheEnd();
+}
+
 TEST_F(TurnLoop, TellsTheEndOfAGameAndBlinksForThreeSecondsUndisturbed) {
     const struct {
         Integer Kind;
@@ -238,33 +243,6 @@ TEST_F(TurnLoop, TellsTheEndOfAGameAndBlinksForThreeSecondsUndisturbed) {
         EXPECT_EQ(Game.ComputerWinSounds.Next, c.ComputerSounds);
         ExpectPlayedToTheEnd();
     }
-}
-
-TEST_F(TurnLoop, StartsTwentyGamesDuringBlinksOnOneStackAndSurvivesAFailureThere) {
-    Game.GridColumns = Game.GridRows = 1;
-    std::set<void*> frames;
-    int games = 0;
-    TheNullDesktop.WhenYielding = [&] {
-        if (!Game.GameOverShown || Game.CommandAfterGameOver)
-            return;
-        frames.insert(__builtin_frame_address(0));
-        RunCommand(++games % 2 == 0 ? Command::Start : Command::Auto);
-        if (games == 20)
-            Fail();
-    };
-    TheNullDesktop.Answers = {Ok};
-    RunGuarded([] { RunCommand(Command::Start); });
-    EXPECT_EQ(frames.size(), 1U);
-    EXPECT_EQ(TheNullDesktop.Boxes.back().Text,
-              "The game had to be ended, because its board is damaged.");
-    ExpectGivenUp();
-    TheNullDesktop.WhenYielding = [] {
-        EXPECT_FALSE(Game.ProgramEnding) << "a blink went on";
-        if (Game.GameOverShown)
-            Form_Unload();
-    };
-    RunCommand(Command::Start);
-    EXPECT_TRUE(Game.ProgramEnding);
 }
 
 TEST_F(TurnLoop, TakesExchangeOnlyForAPreparedGame) {

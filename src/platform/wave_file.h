@@ -9,8 +9,8 @@ struct Wave {
     int SamplesPerSecond; // 100 to 192,000
     int BitsPerSample;    // 8 (unsigned), 16 or 24 (signed, lowest byte first)
     int Channels;         // 1 or 2
-    std::string_view
-        Samples; // whole frames (a sample of each channel), of the bytes that were read
+    // Whole frames, a sample of each channel, of the bytes that were read.
+    std::string_view Samples;
 
     std::size_t BytesPerFrame() const {
         return static_cast<std::size_t>(BitsPerSample) / 8 * static_cast<std::size_t>(Channels);

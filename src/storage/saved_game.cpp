@@ -95,16 +95,6 @@ void RequireRows(Integer count) {
         throw std::runtime_error("a table cannot have so few rows");
 }
 
-// Nothing may point into tables that are about to be replaced.
-void ForgetLines() {
-    Game.LastLine = 0;
-    Game.GhostLine = 0;
-    Game.LastGhostLine = 0;
-    Game.ComputerGhostLine = 0;
-    Game.ChosenLine = 0;
-    Game.Told = {};
-}
-
 void ShowLoadedGame() {
     RedrawField();
     ShowPlayerStatus(1);

@@ -1,9 +1,6 @@
 #include "support/board.h"
 
-#include "base/random.h"
 #include "core/play/game_setup.h"
-#include "display/safe_lines.h"
-#include "support/person.h"
 
 namespace {
 
@@ -61,17 +58,4 @@ void DrawForNobody(const std::vector<int>& lines) {
     for (const int line : lines)
         Game.Lines.at(line).Drawn = Game.LastLine = ToInteger(line);
     Recount(Game);
-}
-
-void DrawRandomPosition(std::uint32_t seed) {
-    SeedRandom(seed);
-    const bool hasOpening = seed % 4 != 0;
-    if (hasOpening)
-        DrawSafeLines();
-    std::vector<int> open = UndrawnLines();
-    const int most = hasOpening ? 4 : Game.LineCount;
-    for (int left = RandomPick(most) - 1; left > 0 && !open.empty(); --left) {
-        DrawForNobody({open.at(RandomPick(static_cast<int>(open.size())) - 1)});
-        open = UndrawnLines();
-    }
 }

@@ -18,6 +18,3 @@ std::string PanelTexts();
 
 // Draws lines for nobody: sides count, complete boxes go to player 1.
 void DrawForNobody(const std::vector<int>& lines);
-
-// Draws random lines for nobody: any at all, or mostly an opening that leaves chains and loops.
-void DrawRandomPosition(std::uint32_t seed);

@@ -1,6 +1,9 @@
 // Files of tests: their bytes, and a directory for them.
 #pragma once
 
+#include <sys/resource.h>
+
+#include <csignal>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
@@ -14,6 +17,18 @@ inline std::string BytesOf(const std::filesystem::path& path) {
 
 inline void PutBytes(const std::filesystem::path& path, const std::string& bytes) {
     std::ofstream(path, std::ios::binary) << bytes;
+}
+
+// Acts while no file may grow beyond so many bytes, as on a disk that is full.
+template <class Act>
+void OnFullDisk(rlim_t bytes, Act act) {
+    std::signal(SIGXFSZ, SIG_IGN);
+    rlimit before{};
+    getrlimit(RLIMIT_FSIZE, &before);
+    const rlimit full{bytes, before.rlim_max};
+    setrlimit(RLIMIT_FSIZE, &full);
+    act();
+    setrlimit(RLIMIT_FSIZE, &before);
 }
 
 // An empty directory that is the current one while this lives. In memory where there is such a

@@ -2,7 +2,7 @@
 #pragma once
 
 #include <cstdint>
-#include <string>
+#include <functional>
 #include <vector>
 
 #include "core/state/game_state.h"
@@ -22,10 +22,7 @@ std::vector<int> UndrawnLines();
 // say Yes to every box.
 void LetPersonsPlay(std::uint32_t seed);
 
-// One of all the things that a user may do with the window as it is; every number stands for one.
-void DoAnything(std::uint32_t number);
-
-// Resizes, presses, and plays for some dozens of yields, whatever a file has left of the game, with
-// a thing done in each yield for a character of `story`; then does it again with a new game. Tells
-// whether that was whole and no game is left running.
-bool UseGameBriefly(const std::string& story = "");
+// Resizes, presses, and plays for some dozens of yields, whatever a file has left of the game, and
+// does something meanwhile in each yield; then plays a new game. Tells whether that was whole and
+// no game is left running.
+bool UseGameBriefly(std::function<void()> meanwhile = nullptr);

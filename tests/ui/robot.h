@@ -121,11 +121,6 @@ public:
         xdo_click_window(Hand, CURRENTWINDOW, 1);
     }
 
-    void DoubleClick(QPoint point) {
-        Click(point);
-        Click(point);
-    }
-
     void Resize(QSize size) {
         xdo_set_window_size(Hand, FocusedWindow(), size.width(), size.height(), 0);
     }

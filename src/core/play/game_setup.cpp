@@ -39,11 +39,6 @@ void NewGame() {
 }
 
 void ForgetTurn() {
-    Game.ComputerGhostLine = 0;
-    Game.GhostLine = 0;
-    Game.LastGhostLine = 0;
-    Game.ChosenLine = 0;
-    Game.LastLine = 0;
-    Game.Told = {};
+    ForgetLines();
     ShowAllMarkers(false);
 }

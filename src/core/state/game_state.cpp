@@ -2,6 +2,15 @@
 
 GameState Game;
 
+void ForgetLines() {
+    Game.ComputerGhostLine = 0;
+    Game.GhostLine = 0;
+    Game.LastGhostLine = 0;
+    Game.ChosenLine = 0;
+    Game.LastLine = 0;
+    Game.Told = {};
+}
+
 int BoxAcross(int line, int box) {
     const Line& crossed = Game.Lines.at(line);
     return crossed.FirstBox == box ? crossed.SecondBox : crossed.FirstBox;

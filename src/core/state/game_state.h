@@ -150,6 +150,10 @@ inline bool IsVertical(int line) {
     return line > Game.HorizontalLineCount;
 }
 
+// Forgets every line that was previewed, chosen, drawn last or told: nothing may point into tables
+// that are about to be replaced.
+void ForgetLines();
+
 // The box beyond a line of `box`, 0 = the border.
 int BoxAcross(int line, int box);
 

@@ -69,7 +69,7 @@ QRect FieldPicture::ToScreen(int left, int top, int right, int bottom) const {
         QPoint(toScreen(right, TwipsPerPixel.width()), toScreen(bottom, TwipsPerPixel.height()))};
 }
 
-void FieldPicture::Fill(QImage& layer, const QRect& screenPixels, QRgb color) {
+void FieldPicture::Fill(QImage& layer, const QRect& screenPixels, QRgb color) const {
     const QRect filled = screenPixels & layer.rect();
     if (filled.isEmpty())
         return;

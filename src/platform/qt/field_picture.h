@@ -40,7 +40,7 @@ public:
 
 private:
     QRect ToScreen(int left, int top, int right, int bottom) const;
-    void Fill(QImage& layer, const QRect& screenPixels, QRgb color);
+    void Fill(QImage& layer, const QRect& screenPixels, QRgb color) const;
 
     QSize Size;
     qreal ScreenRatio = 1;

@@ -60,8 +60,8 @@ void StatusLabel::paintEvent(QPaintEvent* /*event*/) {
         const bool isFigure = widest.back().isDigit();
         QRect column = room;
         column.setLeft(room.right() + 1 - WidthOf({isFigure ? widest : widest.trimmed()}));
-        painter.drawText(column, Qt::AlignVCenter | (isFigure ? Qt::AlignRight : Qt::AlignLeft),
-                         Cells.at(i - 1));
+        const Qt::Alignment alignment = isFigure ? Qt::AlignRight : Qt::AlignLeft;
+        painter.drawText(column, static_cast<int>(Qt::AlignVCenter | alignment), Cells.at(i - 1));
         room.setWidth(room.width() - WidthOf({widest}));
     }
     painter.drawText(room, Qt::AlignVCenter | Qt::AlignLeft, ShownFirstColumn());

@@ -25,6 +25,6 @@ protected:
     void ShowAndRaise();
 
 private:
-    std::optional<QPoint>
-        LastPlace; // inside its title bar and borders, which a hidden window has not
+    // Inside its title bar and borders, which a hidden window has not.
+    std::optional<QPoint> LastPlace;
 };

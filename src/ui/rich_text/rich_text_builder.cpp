@@ -16,7 +16,7 @@ constexpr int CostOfForeign = 8; // a letter beyond Latin: it may turn direction
 constexpr int CostOfTab = 16;
 constexpr int CostOfRun = 8;
 constexpr int CostOfPiece = 24; // a paragraph, a cell or a row
-constexpr std::size_t MostColumns = 16;
+constexpr std::size_t MostColumns = 8;
 
 constexpr char32_t BeyondLatin = 0x250;
 
