@@ -11,6 +11,7 @@ class DisplayTest : public GameTest {};
 
 TEST_F(DisplayTest, ShowsNumbersRightAlignedInFiveCharacters) {
     EXPECT_EQ(PanelTexts(), "Colossus:     0     Intelligent|Guardian:     0     Average||");
+    EXPECT_EQ(frmQuibsMain.shpPlayer2Status.FillColor, BrightWhite);
     SetUpGame(10, 10, ComputerAverage, ComputerCheat);
     EXPECT_EQ(PanelTexts(), "Colossus:     0     Average|Guardian:     0     Cheat|"
                             "Boxes:     0 of   100|Lines:     0 of   220");
