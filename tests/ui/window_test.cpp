@@ -169,18 +169,19 @@ TEST_F(RealWindow, DrawsADocumentAndOpensAGameByPointer) {
 
     UseTwoPersons();
     StartGame("ctrl+d", 10, 10);
+    const long saved = CountDrawn();
     Use("ctrl+s", "Save a Quibs Game", "s t o r y Return");
     QuitGame();
     Open("ctrl+o", "Open a Quibs Game");
     const QRect dialog = FocusedArea();
     const QPoint firstGame(dialog.center().x() + 40, dialog.top() + 25);
-    ActUntil(
-        "the saved lines", [&] { return CountDrawn() > 60; },
-        [&] {
-            // The list may still be empty.
-            for (int clicks = 0; clicks < 2 && FocusedTitle() == "Open a Quibs Game"; ++clicks)
-                Click(firstGame);
-        });
+    const auto isOpened = [&] { return FocusedTitle() == "Quiblink"; };
+    ActUntil("the opened game", isOpened, [&] {
+        // The list may still be empty.
+        for (int clicks = 0; clicks < 2 && !isOpened(); ++clicks)
+            Click(firstGame);
+    });
+    Await("the saved lines", [&] { return CountDrawn() == saved; });
     Press("ctrl+t");
     DrawByPointer(*std::find_if_not(Field.Lines.begin(), Field.Lines.end(),
                                     [&](QPoint line) { return IsDrawn(line); }));
