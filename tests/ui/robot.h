@@ -95,9 +95,12 @@ public:
         });
     }
 
+    // Again and again, for a window that is new may still take a place and a size of its own.
     void ResizeWindow(QSize size) {
-        xdo_set_window_size(Hand, FocusedWindow(), size.width(), size.height(), 0);
-        Await("the window's size", [&] { return FocusedArea().size() == size; });
+        const auto isResized = [&] { return FocusedArea().size() == size; };
+        ActUntil("the window's size", isResized, [&] {
+            xdo_set_window_size(Hand, FocusedWindow(), size.width(), size.height(), 0);
+        });
     }
 
     // To 800 by 500.
