@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <numeric>
+#include <set>
 
 #include "ai/board_runs.h"
 #include "ai/giveaway_search.h"
@@ -46,12 +47,12 @@ protected:
         }
     }
 
-    static std::vector<double> SortedMargins(Pair kinds) {
+    static std::vector<double> SortedMargins(Pair kinds, long steps = GiveawaySearch::UsualSteps) {
         const BoardRuns board = FindBoardRuns();
         std::vector<int> all(board.Runs.size());
         std::iota(all.begin(), all.end(), 0);
         std::vector<double> margins =
-            GiveawaySearch(kinds.Mover, kinds.Opponent).Judge(board.Runs, all);
+            GiveawaySearch(kinds.Mover, kinds.Opponent, steps).Judge(board.Runs, all);
         std::sort(margins.begin(), margins.end());
         return margins;
     }
@@ -78,6 +79,17 @@ TEST_F(DeepChoice, IsBestInManyPositionsOfLargerBoards) {
             ExpectBestChoice(oracle, columns, 3, drawn);
         }
     }
+}
+
+TEST_F(DeepChoice, IsThatOfTheLastRoundFinishedWhenTheStepsEnd) {
+    SeedRandom(10);
+    SetUpGame(10, 9, ComputerCheat, ComputerIntelligent);
+    DrawSafeLines();
+    std::set<std::vector<double>> results;
+    for (long steps = 1'000; steps < 20'000; steps += 100)
+        results.insert(SortedMargins({3, 2}, steps));
+    EXPECT_TRUE(results.size() > 7 && results.size() < FindBoardRuns().Runs.size())
+        << results.size();
 }
 
 TEST_F(DeepChoice, StopsAtOnceWhenTheGameIsGivenUp) {
