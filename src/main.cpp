@@ -1,6 +1,8 @@
 // Quiblink: makes the desktop and the window, and runs until the program ends.
 #include <QApplication>
+#include <QTemporaryDir>
 #include <iostream>
+#include <optional>
 
 #include "core/state/game_state.h"
 #include "platform/desktop.h"
@@ -31,7 +33,16 @@ int main(int argc, char* argv[]) {
     }
     QGuiApplication::setHighDpiScaleFactorRoundingPolicy(
         Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
+    // Here the toolkit looks for a Wayland display in the session's own directory. For a session
+    // without one it would make one under /tmp, say so on stderr and leave it there.
+    constexpr const char* SessionDirectory = "XDG_RUNTIME_DIR";
+    std::optional<QTemporaryDir> substitute;
+    if (qEnvironmentVariableIsEmpty(SessionDirectory))
+        qputenv(SessionDirectory, substitute.emplace().path().toLocal8Bit());
     GuardedApplication application(argc, argv);
+    if (substitute.has_value())
+        qunsetenv(SessionDirectory);
+    substitute.reset();
     QApplication::setApplicationName("Quiblink");
     QApplication::setDesktopFileName("quiblink");
     MainWindow window;
