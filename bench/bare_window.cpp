@@ -51,7 +51,7 @@ void Fill(QMainWindow& window) {
             QAction* action = shown->addAction(entry.Caption);
             action->setShortcut(QKeySequence(entry.Shortcut));
             if (entry.Icon != nullptr) {
-                action->setIcon(QIcon(QString(":/icons/%1.svg").arg(entry.Icon)));
+                action->setIcon(QIcon(QString(":/icons/24/%1.png").arg(entry.Icon)));
                 toolbar->addAction(action);
             }
         }
@@ -70,7 +70,10 @@ void AddFilled(QGridLayout* grid, int row, int columns, QSize size, Qt::GlobalCo
 
 int main(int argc, char* argv[]) {
     QApplication application(argc, argv);
-    QApplication::setWindowIcon(QIcon(":/icons/quiblink.svg"));
+    QIcon icon;
+    for (const int size : {16, 32, 48, 128})
+        icon.addFile(QString(":/icons/%1/quiblink.png").arg(size));
+    QApplication::setWindowIcon(icon);
     QMainWindow window;
     window.setWindowTitle("Quiblink");
     Fill(window);
