@@ -1,6 +1,8 @@
 // Quiblink: makes the desktop and the window, and runs until the program ends.
 #include <QApplication>
+#include <QFileInfo>
 #include <QTemporaryDir>
+#include <clocale>
 #include <iostream>
 #include <optional>
 
@@ -33,11 +35,14 @@ int main(int argc, char* argv[]) {
     }
     QGuiApplication::setHighDpiScaleFactorRoundingPolicy(
         Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
-    // Here the toolkit looks for a Wayland display in the session's own directory. For a session
-    // without one it would make one under /tmp, say so on stderr and leave it there.
+    // In a locale that is not there the toolkit misses how letters are composed, and says so.
+    if (std::setlocale(LC_ALL, "") == nullptr)
+        qputenv("LC_ALL", "C.UTF-8");
+    // Here it looks for a Wayland display in the session's own directory. In a session without one
+    // it would make one under /tmp, say so on stderr and leave it there.
     constexpr const char* SessionDirectory = "XDG_RUNTIME_DIR";
     std::optional<QTemporaryDir> substitute;
-    if (qEnvironmentVariableIsEmpty(SessionDirectory))
+    if (!QFileInfo(qEnvironmentVariable(SessionDirectory)).isWritable())
         qputenv(SessionDirectory, substitute.emplace().path().toLocal8Bit());
     GuardedApplication application(argc, argv);
     if (substitute.has_value())
