@@ -54,7 +54,8 @@ double ProcessorMilliseconds(pid_t process) {
 
 // Nothing tells when a program has nothing more to do: its clock stands still.
 double AwaitRest(pid_t process) {
-    double before = 0, now = 0;
+    double before = 0;
+    double now = 0;
     do {
         before = now;
         usleep(600'000);
@@ -111,7 +112,8 @@ int main(int argc, char* argv[]) {
     XSetErrorHandler([](Display*, XErrorEvent*) { return 0; });
     XSelectInput(screen, DefaultRootWindow(screen), SubstructureNotifyMask);
     Costs first, second;
-    for (int i = 0; i < std::atoi(argv[1]); ++i) {
+    const int starts = std::max(1, std::atoi(argv[1]));
+    for (int i = 0; i < starts; ++i) {
         Start(screen, argv[2], first);
         Start(screen, argv[3], second);
     }

@@ -50,6 +50,7 @@ int main(int argc, char* argv[]) {
     substitute.reset();
     QApplication::setApplicationName("Quiblink");
     QApplication::setDesktopFileName("quiblink");
+    QApplication::setCursorFlashTime(0); // a blinking text cursor would keep a waiting dialog busy
     MainWindow window;
     EndOnSignals([&window] { window.EndProgram(); });
     window.Open();

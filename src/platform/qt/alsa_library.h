@@ -5,6 +5,7 @@
 #include <alsa/asoundlib.h>
 #include <dlfcn.h>
 
+// NOLINTNEXTLINE(bugprone-macro-parentheses): a name has none.
 #define ALSA_FUNCTION(name) decltype(&::name) name = Find<decltype(&::name)>(#name)
 
 class AlsaLibrary {

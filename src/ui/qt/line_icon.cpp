@@ -55,8 +55,9 @@ public:
             painter.fillRect(picture.rect(), text);
         } else {
             auto* pixels = reinterpret_cast<QRgb*>(picture.bits());
-            std::transform(pixels, pixels + picture.width() * picture.height(), pixels,
-                           [rgb = text.rgb()](QRgb pixel) { return WithTextForBlack(pixel, rgb); });
+            std::for_each(
+                pixels, pixels + picture.sizeInBytes() / sizeof(QRgb),
+                [rgb = text.rgb()](QRgb& pixel) { pixel = WithTextForBlack(pixel, rgb); });
         }
         return QPixmap::fromImage(picture);
     }
