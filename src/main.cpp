@@ -26,6 +26,32 @@ public:
     }
 };
 
+// The toolkit looks for a Wayland display in the session's own directory. In a session without one
+// it would make one under /tmp, say so on stderr and leave it there; one that goes again stands in.
+class SessionDirectory {
+public:
+    SessionDirectory() {
+        if (!QFileInfo(qEnvironmentVariable(Variable)).isWritable())
+            qputenv(Variable, Substitute.emplace().path().toLocal8Bit());
+    }
+    ~SessionDirectory() {
+        if (Substitute)
+            qunsetenv(Variable);
+    }
+    SessionDirectory(const SessionDirectory&) = delete;
+    SessionDirectory& operator=(const SessionDirectory&) = delete;
+
+private:
+    static constexpr const char* Variable = "XDG_RUNTIME_DIR";
+    std::optional<QTemporaryDir> Substitute;
+};
+
+// In a locale that is not there the toolkit misses how letters are composed, and says so.
+void RequireLocale() {
+    if (std::setlocale(LC_ALL, "") == nullptr)
+        qputenv("LC_ALL", "C.UTF-8");
+}
+
 } // namespace
 
 int main(int argc, char* argv[]) {
@@ -35,19 +61,10 @@ int main(int argc, char* argv[]) {
     }
     QGuiApplication::setHighDpiScaleFactorRoundingPolicy(
         Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
-    // In a locale that is not there the toolkit misses how letters are composed, and says so.
-    if (std::setlocale(LC_ALL, "") == nullptr)
-        qputenv("LC_ALL", "C.UTF-8");
-    // Here it looks for a Wayland display in the session's own directory. In a session without one
-    // it would make one under /tmp, say so on stderr and leave it there.
-    constexpr const char* SessionDirectory = "XDG_RUNTIME_DIR";
-    std::optional<QTemporaryDir> substitute;
-    if (!QFileInfo(qEnvironmentVariable(SessionDirectory)).isWritable())
-        qputenv(SessionDirectory, substitute.emplace().path().toLocal8Bit());
+    RequireLocale();
+    std::optional<SessionDirectory> directory(std::in_place);
     GuardedApplication application(argc, argv);
-    if (substitute.has_value())
-        qunsetenv(SessionDirectory);
-    substitute.reset();
+    directory.reset();
     QApplication::setApplicationName("Quiblink");
     QApplication::setDesktopFileName("quiblink");
     QApplication::setCursorFlashTime(0); // a blinking text cursor would keep a waiting dialog busy
