@@ -1,6 +1,10 @@
 // Quiblink: makes the desktop and the window, and runs until the program ends.
 #include <QApplication>
+#include <QFileInfo>
+#include <QTemporaryDir>
+#include <clocale>
 #include <iostream>
+#include <optional>
 
 #include "core/state/game_state.h"
 #include "platform/desktop.h"
@@ -22,6 +26,32 @@ public:
     }
 };
 
+// The toolkit looks for a Wayland display in the session's own directory. In a session without one
+// it would make one under /tmp, say so on stderr and leave it there; one that goes again stands in.
+class SessionDirectory {
+public:
+    SessionDirectory() {
+        if (!QFileInfo(qEnvironmentVariable(Variable)).isWritable())
+            qputenv(Variable, Substitute.emplace().path().toLocal8Bit());
+    }
+    ~SessionDirectory() {
+        if (Substitute)
+            qunsetenv(Variable);
+    }
+    SessionDirectory(const SessionDirectory&) = delete;
+    SessionDirectory& operator=(const SessionDirectory&) = delete;
+
+private:
+    static constexpr const char* Variable = "XDG_RUNTIME_DIR";
+    std::optional<QTemporaryDir> Substitute;
+};
+
+// In a locale that is not there the toolkit misses how letters are composed, and says so.
+void RequireLocale() {
+    if (std::setlocale(LC_ALL, "") == nullptr)
+        qputenv("LC_ALL", "C.UTF-8");
+}
+
 } // namespace
 
 int main(int argc, char* argv[]) {
@@ -31,9 +61,13 @@ int main(int argc, char* argv[]) {
     }
     QGuiApplication::setHighDpiScaleFactorRoundingPolicy(
         Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
+    RequireLocale();
+    std::optional<SessionDirectory> directory(std::in_place);
     GuardedApplication application(argc, argv);
+    directory.reset();
     QApplication::setApplicationName("Quiblink");
     QApplication::setDesktopFileName("quiblink");
+    QApplication::setCursorFlashTime(0); // a blinking text cursor would keep a waiting dialog busy
     MainWindow window;
     EndOnSignals([&window] { window.EndProgram(); });
     window.Open();

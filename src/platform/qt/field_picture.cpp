@@ -17,10 +17,13 @@ QRgb Opaque(Color color) {
     return ToQColor(color).rgb();
 }
 
-QImage BlankImage(QSize pixels) {
-    QImage image(pixels, QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::transparent);
-    return image;
+// With what is drawn already where and as it is.
+QImage Resized(const QImage& layer, QSize pixels) {
+    if (!layer.isNull())
+        return layer.copy(QRect(QPoint(), pixels));
+    QImage blank(pixels, QImage::Format_ARGB32_Premultiplied);
+    blank.fill(Qt::transparent);
+    return blank;
 }
 
 QSize ImageSize(QSize logicalSize, qreal pixelRatio) {
@@ -33,16 +36,13 @@ QSize ImageSize(QSize logicalSize, qreal pixelRatio) {
 void FieldPicture::Resize(QSize logicalSize, qreal screenPixelRatio) {
     Size = logicalSize;
     ScreenRatio = screenPixelRatio;
-    const QSize needed = ImageSize(Size, Ratio).expandedTo(Lines.size());
-    if (needed == Lines.size())
-        return;
-    for (QImage* layer : {&Lines, &Points})
-        *layer = layer->isNull() ? BlankImage(needed) : layer->copy(QRect(QPoint(), needed));
+    Pixels = ImageSize(Size, Ratio).expandedTo(Pixels);
 }
 
 void FieldPicture::Clear() {
     Ratio = ScreenRatio;
-    Lines = Points = BlankImage(ImageSize(Size, Ratio));
+    Pixels = ImageSize(Size, Ratio);
+    Lines = Points = QImage();
     WhenChanged(QRect(QPoint(), Size));
 }
 
@@ -70,7 +70,9 @@ QRect FieldPicture::ToScreen(int left, int top, int right, int bottom) const {
 }
 
 void FieldPicture::Fill(QImage& layer, const QRect& screenPixels, QRgb color) const {
-    const QRect filled = screenPixels & layer.rect();
+    if (layer.size() != Pixels)
+        layer = Resized(layer, Pixels);
+    const QRect filled = screenPixels & layer.rect(); // empty when there was no memory for it
     if (filled.isEmpty())
         return;
     for (int y = filled.top(); y <= filled.bottom(); ++y) {

@@ -21,7 +21,7 @@ public:
     // The screen pixels that the window asked for.
     qreal ScreenPixelRatio() const { return ScreenRatio; }
 
-    // From the lowest to the highest, all of one size, at least the picture's.
+    // From the lowest to the highest. One that nothing was drawn on is null.
     std::array<const QImage*, 2> Layers() const { return {&Lines, &Points}; }
     // The pixels of the layers to one logical pixel.
     qreal PixelRatio() const { return Ratio; }
@@ -44,8 +44,9 @@ private:
 
     QSize Size;
     qreal ScreenRatio = 1;
-    QImage Lines, Points;
-    qreal Ratio = 1; // of the two
+    QImage Lines, Points; // as large as was needed when they were last drawn on
+    QSize Pixels;         // what is needed now
+    qreal Ratio = 1;      // of the three
     QSize TwipsPerPixel{1, 1};
 };
 

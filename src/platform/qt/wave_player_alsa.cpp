@@ -2,7 +2,6 @@
 // that can take its time, from the file to the sound server, is done by one worker thread; the
 // window's thread leaves word of the newest wish and goes on. A worker that hangs in a silent
 // server is left behind when the program ends, so what the two share is never destroyed.
-#include <alsa/asoundlib.h>
 #include <poll.h>
 #include <sched.h>
 #include <sys/eventfd.h>
@@ -17,6 +16,7 @@
 #include <vector>
 
 #include "base/files.h"
+#include "platform/qt/alsa_library.h"
 #include "platform/wave_file.h"
 #include "platform/wave_player.h"
 
@@ -75,49 +75,50 @@ snd_pcm_format_t FormatOf(const Wave& wave) {
 
 Device OpenDevice(const Wave& wave) {
     snd_pcm_t* opened = nullptr;
-    snd_pcm_open(&opened, "default", SND_PCM_STREAM_PLAYBACK, SND_PCM_NONBLOCK);
-    Device device(opened, snd_pcm_close);
+    Alsa().snd_pcm_open(&opened, "default", SND_PCM_STREAM_PLAYBACK, SND_PCM_NONBLOCK);
+    Device device(opened, Alsa().snd_pcm_close);
     if (device == nullptr ||
-        snd_pcm_set_params(opened, FormatOf(wave), SND_PCM_ACCESS_RW_INTERLEAVED,
-                           static_cast<unsigned>(wave.Channels),
-                           static_cast<unsigned>(wave.SamplesPerSecond), 1,
-                           BufferMicroseconds) < 0) {
+        Alsa().snd_pcm_set_params(opened, FormatOf(wave), SND_PCM_ACCESS_RW_INTERLEAVED,
+                                  static_cast<unsigned>(wave.Channels),
+                                  static_cast<unsigned>(wave.SamplesPerSecond), 1,
+                                  BufferMicroseconds) < 0) {
         device.reset();
-        snd_config_update_free_global(); // which server there is, is found out anew
+        Alsa().snd_config_update_free_global(); // which server there is, is found out anew
     }
     return device;
 }
 
 // Waits until the device takes more or there is a new wish. Otherwise an error of the device.
 int AwaitRoom(snd_pcm_t* device, const NewestWish& newest) {
-    const int count = snd_pcm_poll_descriptors_count(device);
+    const int count = Alsa().snd_pcm_poll_descriptors_count(device);
     std::vector<pollfd> descriptors(static_cast<std::size_t>(count) + 1, newest.Descriptor());
     pollfd* const ofDevice = &descriptors[1];
-    snd_pcm_poll_descriptors(device, ofDevice, count);
+    Alsa().snd_pcm_poll_descriptors(device, ofDevice, count);
     poll(descriptors.data(), descriptors.size(), -1);
     unsigned short events = 0;
-    snd_pcm_poll_descriptors_revents(device, ofDevice, count, &events);
+    Alsa().snd_pcm_poll_descriptors_revents(device, ofDevice, count, &events);
     if ((events & (POLLERR | POLLNVAL)) == 0)
         return 0;
-    return snd_pcm_state(device) == SND_PCM_STATE_XRUN ? -EPIPE : -EIO;
+    return Alsa().snd_pcm_state(device) == SND_PCM_STATE_XRUN ? -EPIPE : -EIO;
 }
 
 // Returns when there is a new wish, or when the device fails.
 void Play(const Wave& wave, snd_pcm_t* device, const NewestWish& newest) {
     std::string_view samples = wave.Samples;
     while (!samples.empty() && newest.IsTaken()) {
-        auto result = snd_pcm_writei(device, samples.data(), samples.size() / wave.BytesPerFrame());
+        auto result =
+            Alsa().snd_pcm_writei(device, samples.data(), samples.size() / wave.BytesPerFrame());
         if (result > 0)
             samples.remove_prefix(static_cast<std::size_t>(result) * wave.BytesPerFrame());
         if (result == -EAGAIN)
             result = AwaitRoom(device, newest);
         if (result == -EPIPE) // it ran dry
-            result = snd_pcm_prepare(device);
+            result = Alsa().snd_pcm_prepare(device);
         if (result < 0)
             return;
     }
-    if (newest.IsTaken() && snd_pcm_state(device) == SND_PCM_STATE_PREPARED)
-        snd_pcm_start(device); // else a short sound waits for the buffer to be full
+    if (newest.IsTaken() && Alsa().snd_pcm_state(device) == SND_PCM_STATE_PREPARED)
+        Alsa().snd_pcm_start(device); // else a short sound waits for the buffer to be full
     newest.Await();
 }
 
@@ -139,7 +140,9 @@ void Work(NewestWish& newest) {
     // On a busy processor a wish would else put its worker in the place of the window's thread.
     const sched_param unchanged{};
     sched_setscheduler(0, SCHED_BATCH, &unchanged);
-    snd_lib_error_set_handler(IgnoreAlsaError); // else it writes to stderr
+    if (!Alsa().IsThere())
+        return;
+    Alsa().snd_lib_error_set_handler(IgnoreAlsaError); // else it writes to stderr
     for (;;) {
         try {
             Fulfil(newest.Take(), newest);
@@ -154,7 +157,8 @@ NewestWish& Newest() {
     return newest;
 }
 
-// Made before there is work for it, for a new thread is not yet one that lets others go first.
+// Made when a file is opened, before there is work for it: a new thread is not yet one that lets
+// others go first.
 bool HasWorker() {
     static const bool hasWorker = [] {
         try {
@@ -170,7 +174,7 @@ bool HasWorker() {
 } // namespace
 
 void SetWaveDeviceType(const std::string& deviceType) {
-    isWaveAudio = deviceType == "WaveAudio" && HasWorker();
+    isWaveAudio = deviceType == "WaveAudio";
 }
 
 void SetWaveFile(const std::string& fileName) {
@@ -180,5 +184,5 @@ void SetWaveFile(const std::string& fileName) {
 void CommandWavePlayer(WaveCommand command) {
     Newest().Put(command == WaveCommand::Play ? openedFile : "");
     if (command != WaveCommand::Play)
-        openedFile = command == WaveCommand::Open && isWaveAudio ? waveFile : "";
+        openedFile = command == WaveCommand::Open && isWaveAudio && HasWorker() ? waveFile : "";
 }

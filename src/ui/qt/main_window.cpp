@@ -19,10 +19,10 @@
 #include "ui/qt/file_dialogs.h"
 #include "ui/qt/grid_dialog.h"
 #include "ui/qt/help_viewer.h"
+#include "ui/qt/line_icon.h"
 #include "ui/qt/players_dialog.h"
 #include "ui/qt/playing_field.h"
 #include "ui/qt/status_frame.h"
-#include "ui/qt/svg_icon.h"
 #include "ui/qt/window_place.h"
 #include "ui/window_layout.h"
 
@@ -45,6 +45,14 @@ QRect ToPixels(const Rectangle& twips) {
             ToPixels(twips.Height, Game.TwipsPerPixelY)};
 }
 
+// In the sizes that a desktop's task bars and window lists ask for.
+QIcon WindowIcon() {
+    QIcon icon;
+    for (const int size : {16, 32, 48, 128})
+        icon.addFile(QString(":/icons/%1/quiblink.png").arg(size), QSize(size, size));
+    return icon;
+}
+
 // Makes the dialog when it is first asked for, so that the program starts without it.
 template <class Dialog>
 void OpenOrRaise(Dialog*& dialog, QWidget* parent) {
@@ -60,7 +68,7 @@ MainWindow::MainWindow()
       picPlayingField(new PlayingField(ClientArea)), fraStatistics(new StatusFrame(ClientArea)) {
     setObjectName("frmQuibsMain");
     setWindowTitle("Quiblink");
-    QApplication::setWindowIcon(ColoredIcon(":/icons/quiblink.svg"));
+    QApplication::setWindowIcon(WindowIcon());
     setCentralWidget(ClientArea);
     ClientArea->installEventFilter(this);
     fraStatistics->installEventFilter(this);
@@ -180,7 +188,7 @@ void MainWindow::BuildToolBar() {
 
     const auto addButton = [this](Command command, const char* icon, const char* toolTip) {
         QAction* action = ActionOf(command);
-        action->setIcon(LineIcon(QString(":/icons/%1.svg").arg(icon)));
+        action->setIcon(LineIcon(icon));
         action->setIconVisibleInMenu(false);
         action->setToolTip(toolTip);
         tbrToolBar->addAction(action);

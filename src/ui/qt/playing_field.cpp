@@ -70,9 +70,10 @@ void PlayingField::SayWhatWaits() {
 }
 
 void PlayingField::focusInEvent(QFocusEvent* event) {
-    QWidget::focusInEvent(event);
     if (event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason)
         FocusIsMarked = true;
+    if (FocusIsMarked)
+        update();
     // After what the toolkit itself tells about the focus, which would be heard instead.
     QMetaObject::invokeMethod(this, &PlayingField::SayWhatWaits, Qt::QueuedConnection);
 }

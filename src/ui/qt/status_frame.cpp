@@ -21,8 +21,8 @@ constexpr int BandMargin = 6; // beside the marked line
 constexpr int BarWidth = 4;
 constexpr float BandOpacity = 0.14F;
 
-constexpr const char* WidestPlayer = "Guardian: 00000   Intelligent";
-constexpr const char* WidestCounter = "Boxes: 00000 of 00000";
+const auto WidestPlayer = [] { return QStringList{"Guardian:", " 00000", "   Intelligent"}; };
+const auto WidestCounter = [] { return QStringList{"Boxes:", " 00000", " of", " 00000"}; };
 
 enum Column { SwatchColumn, PlayerColumn, GapColumn, CounterColumn };
 enum Row { FirstRow, SecondRow, TurnRow };
@@ -41,12 +41,12 @@ StatusFrame::StatusFrame(QWidget* parent)
       shpPlayer2Active(new Swatch("shpPlayer2Active", "Marker", this)),
       shpPlayer3Active(new Swatch("shpPlayer3Active", "Marker", this)),
       shpPlayer4Active(new Swatch("shpPlayer4Active", "Marker", this)),
-      txtPlayer1Status(new StatusLabel("txtPlayer1Status", WidestPlayer, this)),
-      txtPlayer2Status(new StatusLabel("txtPlayer2Status", WidestPlayer, this)),
-      txtBoxesStatus(new StatusLabel("txtBoxesStatus", WidestCounter, this)),
-      txtLinesStatus(new StatusLabel("txtLinesStatus", WidestCounter, this)),
-      lblPlayer1Active(new StatusLabel("lblPlayer1Active", "", this)),
-      lblPlayer2Active(new StatusLabel("lblPlayer2Active", "", this)) {
+      txtPlayer1Status(new StatusLabel("txtPlayer1Status", WidestPlayer(), this)),
+      txtPlayer2Status(new StatusLabel("txtPlayer2Status", WidestPlayer(), this)),
+      txtBoxesStatus(new StatusLabel("txtBoxesStatus", WidestCounter(), this)),
+      txtLinesStatus(new StatusLabel("txtLinesStatus", WidestCounter(), this)),
+      lblPlayer1Active(new StatusLabel("lblPlayer1Active", {}, this)),
+      lblPlayer2Active(new StatusLabel("lblPlayer2Active", {}, this)) {
     setObjectName("fraStatistics");
     auto* grid = new QGridLayout(this);
     grid->setContentsMargins(Margin, 8, Margin, 6);

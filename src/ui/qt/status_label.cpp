@@ -2,8 +2,8 @@
 
 #include <QEvent>
 #include <QPainter>
-#include <QRegularExpression>
 #include <QTextDocument>
+#include <utility>
 
 namespace {
 
@@ -12,13 +12,10 @@ constexpr int LettersOfName = 8;     // that are never cut off
 
 } // namespace
 
-StatusLabel::StatusLabel(const char* objectName, const QString& widestText, QWidget* parent)
-    : QLabel(parent) {
+StatusLabel::StatusLabel(const char* objectName, QStringList widestColumns, QWidget* parent)
+    : QLabel(parent), Columns(std::move(widestColumns)) {
     setObjectName(objectName);
     setTextFormat(Qt::PlainText);
-    static const QRegularExpression column(" *[^ ]+");
-    for (auto found = column.globalMatch(widestText); found.hasNext();)
-        Columns.append(found.next().captured());
 }
 
 void StatusLabel::ShowText(const std::string& text, std::size_t nameLength) {
@@ -42,7 +39,8 @@ QSize StatusLabel::sizeHint() const {
 QSize StatusLabel::minimumSizeHint() const {
     const QStringList widest =
         Columns.isEmpty() ? QStringList{Name.left(LettersOfName), Rest} : Columns;
-    return {WidthOf(widest), fontMetrics().height() + RoomAboveAndBelow};
+    // All lines are equally high, so that a bold font is not loaded before it is shown.
+    return {WidthOf(widest), parentWidget()->fontMetrics().height() + RoomAboveAndBelow};
 }
 
 bool StatusLabel::event(QEvent* event) {

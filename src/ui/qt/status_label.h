@@ -8,10 +8,10 @@ class StatusLabel : public QLabel {
     Q_OBJECT
 
 public:
-    // `widestText` has a word or number for every column behind the first, after the gap that keeps
-    // them apart, and begins with what the first has room for at least. A label without columns
-    // shows its text in one piece.
-    StatusLabel(const char* objectName, const QString& widestText, QWidget* parent);
+    // Of the columns, the first names what it has room for at least, each other its widest word or
+    // number after the gap that keeps it apart. A label without columns shows its text in one
+    // piece.
+    StatusLabel(const char* objectName, QStringList widestColumns, QWidget* parent);
 
     // The first `nameLength` bytes are a player's name.
     void ShowText(const std::string& text, std::size_t nameLength);

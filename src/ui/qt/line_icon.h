@@ -1,4 +1,4 @@
-// Icons drawn from SVG at the exact size and scale they are shown at.
+// Icons of lines, from pictures that were made of SVG in the sizes of usual screens.
 #pragma once
 
 #include <QIcon>
@@ -6,7 +6,4 @@
 
 // An icon whose black strokes take the colour of the desktop's button texts, so that it reads on
 // light and dark desktops; dimmed, without its accent, while its command is disabled.
-QIcon LineIcon(const QString& svgFile);
-
-// An icon in its own colours.
-QIcon ColoredIcon(const QString& svgFile);
+QIcon LineIcon(const QString& name);
