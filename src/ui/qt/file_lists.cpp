@@ -97,6 +97,7 @@ FileLists::FileLists(QWidget* parent)
 }
 
 void FileLists::Load() {
+    IsDoubleClicked = false;
     drvDriveList->clear();
     drvDriveList->addItems(MountedDrives());
     const QString current = CurrentDirectory();
