@@ -19,9 +19,9 @@ void Swap(Integer& first, Integer& second) {
     second = kept;
 }
 
-// Margins are sums in different orders of the same few numbers.
+// Margins are sums in different orders of the same few numbers, remembered in single precision.
 bool IsAsGood(double margin, double best) {
-    return margin >= best - 1e-6;
+    return margin >= best - 1e-3;
 }
 
 // The margin that each row of the table leads to.

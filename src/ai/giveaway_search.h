@@ -3,7 +3,6 @@
 
 #include <array>
 #include <cstdint>
-#include <deque>
 #include <vector>
 
 #include "ai/pieces.h"
@@ -12,71 +11,78 @@
 // A set of pieces, each with the number of times it is there.
 struct Position {
     struct Share {
-        PieceNumber Piece;
+        Piece* Of;
         int Count;
     };
 
-    // Adds a piece `count` times, or takes it away.
-    void Add(PieceNumber number, std::uint64_t pieceCode, int count);
+    // Adds a piece, or takes it away where `times` is -1.
+    void Add(Piece& piece, int times);
+    // Puts the rest of an opened piece in its place, or the piece back where `times` is -1.
+    void Open(RunPlace place, int times);
 
-    std::vector<Share> Shares; // in the order of their numbers
-    std::uint64_t Code = 0;
+    std::vector<Share> Shares; // in the order of the pieces' numbers
+    SetCode Code;
+    int Runs = 0;
 };
 
 // A row to give away.
 struct Choice {
-    int Boxes = 0;
     RunPlace Place;
-    int Count = 0;      // so many rows are alike
-    int RankInSize = 0; // among the choices of as many boxes, from 0
+    int Count = 0; // so many rows are alike
 };
 
+// Judges in rounds. Round n follows everything once n runs or fewer are left, and before that only
+// the cheapest choices. What it has judged exactly serves the rounds behind it.
 class GiveawaySearch {
 public:
+    // A step is a position set up, worth about half a microsecond. So many have sufficed for every
+    // round up to twenty-six runs.
+    static constexpr long UsualSteps = 1'200'000;
+
     // For a player of kind `mover`, one of the stronger computers, who must give away.
-    GiveawaySearch(int mover, int opponent);
+    GiveawaySearch(int mover, int opponent, long steps = UsualSteps);
 
     // The margin still to come for each of the `candidates`, positions in `runs`, when its row is
-    // the choice. Every way to the end of the game is followed if the steps suffice, else the most
-    // different ones. Yields in between; once the game is to end the margins mean little.
+    // the choice: as the last round says that the steps suffice for, which is exact if none is
+    // left. Yields in between; once the game is to end the margins mean little.
     std::vector<double> Judge(const std::vector<Run>& runs, const std::vector<int>& candidates);
 
 private:
+    static constexpr int Manners = 4; // in which a lone run may be played
+
     // Thrown when the steps are used up or the game is to end.
     struct Interruption {};
 
     // Somebody's turn to give away.
     struct Turn {
-        int Level = 0;  // its position stands in Levels
+        int Level = 0;  // turns before it
         int Player = 0; // 0 = the one the search is for, 1 = the opponent
+        bool FollowsAll = true;
     };
 
+    bool HasKind(int kind) const { return Kinds[0] == kind || Kinds[1] == kind; }
     int KindOf(const Turn& turn) const { return Kinds.at(turn.Player); }
     int OpponentKindOf(const Turn& turn) const { return Kinds.at(1 - turn.Player); }
 
-    std::vector<double> JudgeWiderAndWider(const std::vector<RunPlace>& candidates);
-    void JudgeEach(const std::vector<RunPlace>& candidates, int width,
-                   std::vector<double>& margins);
     double ValueOf(const Turn& turn);
     std::vector<Choice> ChoicesOf(const Turn& turn);
-    bool IsDominated(const Turn& turn, const Piece& piece);
-    bool ArePlayedAlike(const Run& smaller, const Run& larger) const;
+    std::array<int, Manners> SmallestLoneRuns() const;
+    int MannerOf(const Run& run) const;
+    void KeepCheapest(const Turn& turn, std::vector<Choice>& choices);
+    int CostOf(const Turn& turn, RunPlace place);
 
     double ValueOfGiveaway(const Turn& turn, RunPlace place);
     double ValueOfAnyLine(const Turn& turn, RunPlace place);
     double ValueOfOpening(const Turn& turn, RunPlace place, bool leavesPairWhole);
+    bool EndsTheGame(RunPlace place);
     double ValueAfter(const Turn& turn, RunPlace place, int nextPlayer);
-    bool EndsTheGame(const Turn& turn, RunPlace place);
-    std::uint64_t CodeAfter(const Turn& turn, RunPlace place);
-    void SetUpAfter(const Turn& turn, RunPlace place);
     void CountSteps(long steps);
 
     std::array<int, 2> Kinds;
-    int Width = 0;          // the most choices of a turn that are followed
-    bool LeavesOut = false; // some turn had more of them
+    int AllRuns = 0;
+    int Round = 0;
     PieceCatalogue Catalogue;
-    std::deque<Position> Levels;
+    Position Left;
     ValueMemory Values;
-    long StepsLeft = 0;
-    long StepsToYield = 0;
+    long StepsLeft;
 };

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <numeric>
 
-#include "base/random.h"
+#include "base/integer.h"
 
 namespace {
 
@@ -177,22 +177,21 @@ struct NormalForm {
 // A run from a joint back to it takes the joint with it if a single other run meets it there, and
 // then that run as well.
 std::vector<Giveaway> FindGiveaways(const std::vector<Run>& runs) {
-    std::vector<std::vector<int>> runsAt(static_cast<std::size_t>(JointCount(runs)) + 1);
-    for (std::size_t i = 0; i < runs.size(); ++i)
-        for (const int end : runs.at(i).Ends)
-            if (end > 0)
-                runsAt.at(end).push_back(static_cast<int>(i));
     std::vector<Giveaway> giveaways;
-    for (std::size_t i = 0; i < runs.size(); ++i) {
-        const Run& run = runs.at(i);
+    for (const Run& run : runs) {
         Giveaway& given = giveaways.emplace_back();
-        given.Boxes = run.Boxes;
-        if (run.Ends[0] <= 0 || run.Ends[0] != run.Ends[1] || runsAt.at(run.Ends[0]).size() != 3)
+        given.Boxes = ToInteger(run.Boxes);
+        if (run.Ends[0] <= 0 || run.Ends[0] != run.Ends[1])
             continue;
-        for (const int other : runsAt.at(run.Ends[0]))
-            if (other != static_cast<int>(i))
-                given.Behind = other;
-        given.Boxes += 1 + runs.at(given.Behind).Boxes;
+        std::vector<int> endsThere;
+        for (std::size_t i = 0; i < runs.size(); ++i)
+            for (const int end : runs.at(i).Ends)
+                if (end == run.Ends[0] && &runs.at(i) != &run)
+                    endsThere.push_back(static_cast<int>(i));
+        if (endsThere.size() == 1) {
+            given.Behind = ToInteger(endsThere.front());
+            given.Boxes = ToInteger(run.Boxes + 1 + runs.at(given.Behind).Boxes);
+        }
     }
     return giveaways;
 }
@@ -209,45 +208,45 @@ std::u16string KeyOf(const std::vector<Run>& runs) {
 
 } // namespace
 
-std::vector<PieceNumber> PieceCatalogue::Enter(const std::vector<Run>& runs,
-                                               std::vector<RunPlace>* places) {
-    std::vector<PieceNumber> pieces;
-    if (places != nullptr)
-        places->resize(runs.size());
+std::vector<RunPlace> PieceCatalogue::Enter(const std::vector<Run>& runs) {
+    std::vector<RunPlace> places(runs.size());
     for (const std::vector<int>& members : MembersOfPieces(runs)) {
         const NormalForm form(runs, members);
-        pieces.push_back(Intern(form.Runs));
-        StepsDone += static_cast<long>(members.size());
-        if (places != nullptr)
-            for (std::size_t position = 0; position < form.Order.size(); ++position)
-                places->at(form.Order.at(position)) = {pieces.back(), static_cast<int>(position)};
-    }
-    return pieces;
-}
-
-PieceNumber PieceCatalogue::Intern(const std::vector<Run>& runs) {
-    const auto [entry, isNew] =
-        Numbers.try_emplace(KeyOf(runs), static_cast<PieceNumber>(Pieces.size()));
-    if (isNew) {
-        Piece& piece = Pieces.emplace_back();
-        piece.Runs = runs;
-        piece.Giveaways = FindGiveaways(runs);
-        piece.Smallest =
-            std::min_element(piece.Giveaways.begin(), piece.Giveaways.end(),
-                             [](const Giveaway& a, const Giveaway& b) { return a.Boxes < b.Boxes; })
-                ->Boxes;
-        piece.Code = MixSignature((entry->second + 1) * 0x9E3779B97F4A7C15U);
-    }
-    return entry->second;
-}
-
-const std::vector<PieceNumber>& PieceCatalogue::RestAfter(RunPlace opened) {
-    const Piece& piece = Pieces.at(opened.Piece);
-    Giveaway& given = Pieces.at(opened.Piece).Giveaways.at(opened.Position);
-    if (!given.IsRestKnown) {
-        given.IsRestKnown = true;
-        given.Rest = Enter(Opening(piece.Runs, opened.Position).RunsLeft());
+        Piece& piece = Intern(form.Runs);
         StepsDone += piece.RunCount();
+        for (int position = 0; position < piece.RunCount(); ++position)
+            places.at(form.Order.at(position)) = {&piece, position};
     }
-    return given.Rest;
+    return places;
+}
+
+Piece& PieceCatalogue::Intern(const std::vector<Run>& runs) {
+    Piece*& known = Known[KeyOf(runs)];
+    if (known == nullptr) {
+        known = &Pieces.emplace_back();
+        known->Runs = runs;
+        known->Giveaways = FindGiveaways(runs);
+        known->Rests.resize(runs.size());
+        known->Number = static_cast<int>(Pieces.size());
+        const std::uint64_t random = MixSignature(known->Number * 0x9E3779B97F4A7C15U);
+        (LoneTwinsCancel && runs.size() == 1 ? known->Code.Odd : known->Code.Sum) = random;
+    }
+    return *known;
+}
+
+const Giveaway& PieceCatalogue::Open(RunPlace place) {
+    Piece& piece = *place.Of;
+    Giveaway& given = piece.Giveaways.at(place.Position);
+    if (given.RunChange != 0)
+        return given;
+    const std::vector<Run> runsLeft = Opening(piece.Runs, place.Position).RunsLeft();
+    given.RunChange = ToInteger(static_cast<int>(runsLeft.size()) - piece.RunCount());
+    given.CodeChange = -piece.Code;
+    for (const RunPlace& left : Enter(runsLeft))
+        if (left.Position == 0) {
+            piece.Rests.at(place.Position).push_back(left.Of);
+            given.CodeChange = given.CodeChange + left.Of->Code;
+        }
+    StepsDone += piece.RunCount();
+    return given;
 }

@@ -10,6 +10,8 @@
 #include <utility>
 #include <vector>
 
+#include "base/integer.h"
+
 // Boxes with two sides drawn, one behind the other. Each end lies at a joint, which is a box with
 // at most one side drawn, or at none.
 struct Run {
@@ -24,52 +26,65 @@ struct Run {
     auto operator<=>(const Run&) const = default; // NOLINT(modernize-use-nullptr): its own mistake
 };
 
-using PieceNumber = int; // from 0, in the order in which the pieces were met
+struct Piece;
 
-// One run of a piece as something to give away.
+// The random codes of a set of pieces, taken together: `Odd` forgets whatever is there twice.
+struct SetCode {
+    std::uint64_t Sum = 0;
+    std::uint64_t Odd = 0;
+
+    SetCode operator+(const SetCode& other) const { return {Sum + other.Sum, Odd ^ other.Odd}; }
+    SetCode operator-() const { return {-Sum, Odd}; }
+    std::uint64_t Mixed() const { return Sum ^ Odd; }
+};
+
+// One run of a piece as something to give away. Small, for a search goes through millions.
 struct Giveaway {
-    int Boxes = 0;   // what the opponent may take
-    int Behind = -1; // the run that falls with this one, -1 = none
-
-    // What is left when everything given away has been taken, once that has been asked for.
-    bool IsRestKnown = false;
-    std::vector<PieceNumber> Rest;
+    Integer Boxes = 0;     // what the opponent may take
+    Integer Behind = -1;   // the run that falls with this one, -1 = none
+    Integer RunChange = 0; // from the piece to what is left of it, 0 = not opened yet
+    SetCode CodeChange;    // likewise
 };
 
 struct Piece {
     std::vector<Run> Runs;
-    std::vector<Giveaway> Giveaways; // one for each run
-    int Smallest = 0;                // boxes of the smallest giveaway
-    std::uint64_t Code = 0;          // random, so that a sum of codes stands for a set of pieces
+    std::vector<Giveaway> Giveaways;        // one for each run
+    std::vector<std::vector<Piece*>> Rests; // what is left of it when that has been taken
+    int Number = 0;                         // in the order in which the pieces were met
+    SetCode Code;
 
     int RunCount() const { return static_cast<int>(Runs.size()); }
 };
 
 // Where a run stands: the piece, and the position among its runs.
 struct RunPlace {
-    PieceNumber Piece = 0;
+    Piece* Of = nullptr;
     int Position = 0;
+
+    const Run& Opened() const { return Of->Runs.at(Position); }
+    const Giveaway& Given() const { return Of->Giveaways.at(Position); }
 };
 
 // Every piece met so far, each shape once.
 class PieceCatalogue {
 public:
-    // Enters the pieces that `runs` fall into. `places`, if given, tells where each run stands.
-    std::vector<PieceNumber> Enter(const std::vector<Run>& runs,
-                                   std::vector<RunPlace>* places = nullptr);
+    // `loneTwinsCancel` tells that two equal runs, each a piece of its own, are worth nothing.
+    explicit PieceCatalogue(bool loneTwinsCancel) : LoneTwinsCancel(loneTwinsCancel) {}
 
-    const Piece& At(PieceNumber number) const { return Pieces.at(number); }
+    // Enters the pieces that `runs` fall into. Tells where each run stands.
+    std::vector<RunPlace> Enter(const std::vector<Run>& runs);
 
-    // The pieces that are left when the run has been opened and everything has been taken.
-    const std::vector<PieceNumber>& RestAfter(RunPlace opened);
+    // The giveaway of a run, opened if it was not yet.
+    const Giveaway& Open(RunPlace place);
 
     // Work done since the last call, in runs looked at.
     long TakeSteps() { return std::exchange(StepsDone, 0); }
 
 private:
-    PieceNumber Intern(const std::vector<Run>& runs);
+    Piece& Intern(const std::vector<Run>& runs);
 
+    bool LoneTwinsCancel;
     std::deque<Piece> Pieces;
-    std::unordered_map<std::u16string, PieceNumber> Numbers;
+    std::unordered_map<std::u16string, Piece*> Known;
     long StepsDone = 0;
 };

@@ -1,52 +1,56 @@
 // What the deep choice remembers of the positions it has judged.
 #pragma once
 
+#include <algorithm>
+#include <array>
 #include <cstdint>
 #include <vector>
 
-// Values by a random 64-bit code; two positions of one code would be taken for the same.
+// Values by a random code of 64 bits and by what else they depend on, their kind. A row fills one
+// line of the processor's cache, for which a search waits longest. A full row forgets, and mixes up
+// codes that agree in 32 bits more: one value in some of the longest searches.
 class ValueMemory {
 public:
-    ValueMemory() : Slots(SmallestSize) {}
+    static constexpr int SlotsPerRow = 8;
+    static constexpr int MostRowBits = 18;
+    static constexpr long MostValues = long{SlotsPerRow} << MostRowBits;
 
-    // The value stored under `code`, or none.
-    const double* Find(std::uint64_t code) const {
-        const Slot& slot = Slots.at(PlaceOf(code));
-        return slot.Code != Unused ? &slot.Value : nullptr;
+    // Forgets everything, and makes room for positions of so many runs.
+    void Clear(int runs) { Rows.assign(1U << std::clamp(runs - 4, 4, MostRowBits), {}); }
+
+    // Lets the processor bring what will be asked for soon.
+    void Fetch(std::uint64_t code) const { __builtin_prefetch(&Rows[PlaceOf(code)]); }
+
+    // The value stored under `code` and `kind`, or none.
+    const float* Find(std::uint64_t code, std::uint32_t kind) const {
+        for (const Slot& slot : Rows[PlaceOf(code)].Slots)
+            if (slot.Check == CheckOf(code, kind))
+                return &slot.Value;
+        return nullptr;
     }
 
-    // Stores the value of a code that is not there yet.
-    void Store(std::uint64_t code, double value) {
-        if (2 * ++Count > Slots.size())
-            Grow();
-        Slots.at(PlaceOf(code)) = {code, value};
+    void Store(std::uint64_t code, std::uint32_t kind, double value) {
+        auto& slots = Rows[PlaceOf(code)].Slots;
+        std::size_t free = 0;
+        while (free < SlotsPerRow && slots.at(free).Check != 0)
+            ++free;
+        slots.at(free % SlotsPerRow) = {CheckOf(code, kind), static_cast<float>(value)};
     }
 
 private:
-    static constexpr std::size_t SmallestSize = 1U << 12U; // a power of two
-
-    static constexpr std::uint64_t Unused = 0; // a value of this code is not found again
-
     struct Slot {
-        std::uint64_t Code = Unused;
-        double Value = 0;
+        std::uint32_t Check = 0; // 0 = free
+        float Value = 0;
+    };
+    struct alignas(SlotsPerRow * sizeof(Slot)) Row {
+        std::array<Slot, SlotsPerRow> Slots;
     };
 
-    std::size_t PlaceOf(std::uint64_t code) const {
-        std::size_t place = code & (Slots.size() - 1);
-        while (Slots.at(place).Code != Unused && Slots.at(place).Code != code)
-            place = (place + 1) & (Slots.size() - 1);
-        return place;
+    std::size_t PlaceOf(std::uint64_t code) const { return code & (Rows.size() - 1); }
+
+    static std::uint32_t CheckOf(std::uint64_t code, std::uint32_t kind) {
+        return static_cast<std::uint32_t>(code >> 32U) ^ (0x9E3779B1U * kind);
     }
 
-    void Grow() {
-        std::vector<Slot> old(2 * Slots.size());
-        old.swap(Slots);
-        for (const Slot& slot : old)
-            if (slot.Code != Unused)
-                Slots.at(PlaceOf(slot.Code)) = slot;
-    }
-
-    std::vector<Slot> Slots;
-    std::size_t Count = 0;
+    std::vector<Row> Rows;
 };
