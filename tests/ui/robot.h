@@ -86,12 +86,12 @@ public:
             throw std::runtime_error("waited in vain for " + what);
     }
 
-    // For what the program may not yet be ready for: acts again and again.
+    // For what the program may not yet be ready for: acts again, but not as fast as a double click.
     static void ActUntil(const std::string& what, const std::function<bool()>& condition,
                          const std::function<void()>& act) {
         Await(what, [&] {
             act();
-            return WaitFor(condition, 300);
+            return WaitFor(condition, 600);
         });
     }
 

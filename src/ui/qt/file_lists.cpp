@@ -7,6 +7,7 @@
 #include <QPainter>
 #include <QStyle>
 #include <QTimer>
+#include <utility>
 
 namespace {
 
@@ -78,6 +79,7 @@ FileLists::FileLists(QWidget* parent)
     grid->addWidget(filFileList, 0, 1, 2, 1);
     dirDirectoryList->installEventFilter(this);
     filFileList->installEventFilter(this);
+    filFileList->viewport()->installEventFilter(this);
     const int iconSize = style()->pixelMetric(QStyle::PM_SmallIconSize);
     dirDirectoryList->setIconSize(QSize(iconSize, iconSize));
 
@@ -91,10 +93,11 @@ FileLists::FileLists(QWidget* parent)
     connect(filFileList, &QListWidget::itemSelectionChanged, this, &FileLists::filFileList_Click);
     // A game that was selected already.
     connect(filFileList, &QListWidget::itemClicked, this, &FileLists::filFileList_Click);
-    connect(filFileList, &QListWidget::itemDoubleClicked, this, &FileLists::GameDoubleClicked);
+    connect(filFileList, &QListWidget::itemDoubleClicked, this, [this] { IsDoubleClicked = true; });
 }
 
 void FileLists::Load() {
+    IsDoubleClicked = false;
     drvDriveList->clear();
     drvDriveList->addItems(MountedDrives());
     const QString current = CurrentDirectory();
@@ -104,6 +107,10 @@ void FileLists::Load() {
 }
 
 bool FileLists::eventFilter(QObject* watched, QEvent* event) {
+    // Told when the button is up again. A dialog that is gone by then loses the release, and the
+    // pointer, thought to be dragging, would show no ghost line.
+    if (event->type() == QEvent::MouseButtonRelease && std::exchange(IsDoubleClicked, false))
+        QMetaObject::invokeMethod(this, &FileLists::GameDoubleClicked, Qt::QueuedConnection);
     if (event->type() != QEvent::KeyPress)
         return QWidget::eventFilter(watched, event);
     const int key = static_cast<QKeyEvent*>(event)->key();

@@ -49,4 +49,5 @@ private:
     DirectoryReader Reader;
     QTimer* ReadingIsSlow;
     QString ShownDirectory;
+    bool IsDoubleClicked = false; // a game, whose button is still down
 };
