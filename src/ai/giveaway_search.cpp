@@ -47,8 +47,9 @@ void Position::Add(Piece& piece, int times) {
 
 void Position::Open(RunPlace place, int times) {
     Add(*place.Of, -times);
-    for (Piece* rest : place.Of->Rests.at(place.Position))
-        Add(*rest, times);
+    for (Piece* rest : place.Given().Rest)
+        if (rest != nullptr)
+            Add(*rest, times);
 }
 
 GiveawaySearch::GiveawaySearch(int mover, int opponent, long steps)

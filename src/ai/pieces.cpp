@@ -226,7 +226,6 @@ Piece& PieceCatalogue::Intern(const std::vector<Run>& runs) {
         known = &Pieces.emplace_back();
         known->Runs = runs;
         known->Giveaways = FindGiveaways(runs);
-        known->Rests.resize(runs.size());
         known->Number = static_cast<int>(Pieces.size());
         const std::uint64_t random = MixSignature(known->Number * 0x9E3779B97F4A7C15U);
         (LoneTwinsCancel && runs.size() == 1 ? known->Code.Odd : known->Code.Sum) = random;
@@ -242,9 +241,10 @@ const Giveaway& PieceCatalogue::Open(RunPlace place) {
     const std::vector<Run> runsLeft = Opening(piece.Runs, place.Position).RunsLeft();
     given.RunChange = ToInteger(static_cast<int>(runsLeft.size()) - piece.RunCount());
     given.CodeChange = -piece.Code;
+    std::size_t rests = 0;
     for (const RunPlace& left : Enter(runsLeft))
         if (left.Position == 0) {
-            piece.Rests.at(place.Position).push_back(left.Of);
+            given.Rest.at(rests++) = left.Of;
             given.CodeChange = given.CodeChange + left.Of->Code;
         }
     StepsDone += piece.RunCount();

@@ -40,17 +40,17 @@ struct SetCode {
 
 // One run of a piece as something to give away. Small, for a search goes through millions.
 struct Giveaway {
-    Integer Boxes = 0;     // what the opponent may take
-    Integer Behind = -1;   // the run that falls with this one, -1 = none
-    Integer RunChange = 0; // from the piece to what is left of it, 0 = not opened yet
-    SetCode CodeChange;    // likewise
+    Integer Boxes = 0;            // what the opponent may take
+    Integer Behind = -1;          // the run that falls with this one, -1 = none
+    Integer RunChange = 0;        // from the piece to what is left of it, 0 = not opened yet
+    SetCode CodeChange;           // likewise
+    std::array<Piece*, 2> Rest{}; // likewise: a piece at each end of what was taken, or null
 };
 
 struct Piece {
     std::vector<Run> Runs;
-    std::vector<Giveaway> Giveaways;        // one for each run
-    std::vector<std::vector<Piece*>> Rests; // what is left of it when that has been taken
-    int Number = 0;                         // in the order in which the pieces were met
+    std::vector<Giveaway> Giveaways; // one for each run
+    int Number = 0;                  // in the order in which the pieces were met
     SetCode Code;
 
     int RunCount() const { return static_cast<int>(Runs.size()); }
