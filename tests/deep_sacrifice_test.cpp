@@ -81,15 +81,24 @@ TEST_F(DeepChoice, IsBestInManyPositionsOfLargerBoards) {
     }
 }
 
-TEST_F(DeepChoice, IsThatOfTheLastRoundFinishedWhenTheStepsEnd) {
+TEST_F(DeepChoice, IsThatOfTheLastRoundBegunWhenTheStepsEnd) {
     SeedRandom(10);
     SetUpGame(10, 9, ComputerCheat, ComputerIntelligent);
     DrawSafeLines();
-    std::set<std::vector<double>> results;
-    for (long steps = 1'000; steps < 20'000; steps += 100)
-        results.insert(SortedMargins({3, 2}, steps));
-    EXPECT_TRUE(results.size() > 7 && results.size() < FindBoardRuns().Runs.size())
-        << results.size();
+    std::vector<double> round = SortedMargins({3, 2});
+    std::set<std::vector<double>> rounds;
+    bool wasCutShort = false;
+    for (long steps = 20'000; steps > 1'000; steps -= 100) {
+        const std::vector<double> margins = SortedMargins({3, 2}, steps);
+        const auto judged = std::ranges::upper_bound(margins, GiveawaySearch::Unjudged);
+        if (judged == margins.begin())
+            rounds.insert(round = margins);
+        wasCutShort |= judged != margins.begin();
+        ASSERT_NE(judged, margins.end()) << steps;
+        ASSERT_TRUE(std::includes(round.begin(), round.end(), judged, margins.end())) << steps;
+    }
+    EXPECT_TRUE(wasCutShort && rounds.size() >= 4 && rounds.size() <= round.size() / 2)
+        << rounds.size();
 }
 
 TEST_F(DeepChoice, StopsAtOnceWhenTheGameIsGivenUp) {

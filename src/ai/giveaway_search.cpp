@@ -1,7 +1,8 @@
 #include "ai/giveaway_search.h"
 
 #include <algorithm>
-#include <limits>
+#include <numeric>
+#include <utility>
 
 #include "core/state/game_state.h"
 #include "platform/desktop.h"
@@ -9,21 +10,22 @@
 namespace {
 
 constexpr int FirstRound = 4;
+constexpr int RoundsApart = 2;
 constexpr int FirstRoundOfAllReplies = 18; // before it they cost more than they tell
 constexpr int RunsOfWideRounds = 12;       // left out of those that a round follows everything of
 constexpr std::size_t CheapestFollowed = 2;
 constexpr std::size_t CheapestOfCheatFollowed = 3;
 
-constexpr long SmallThingsPerStep = 8; // kinds of pieces to look at, runs to look at
+constexpr long KindsOfPiecesPerStep = 8; // to look through for choices
+constexpr long RunsPerStep = 4;          // to look at when one of them is opened
 constexpr long StepsBetweenYields = 4'000;
 
 static_assert(3 * GiveawaySearch::UsualSteps < 2 * ValueMemory::MostValues); // one a step at most
 
 void KeepSmallest(std::vector<Choice>& choices) {
-    int smallest = std::numeric_limits<int>::max();
-    for (const Choice& choice : choices)
-        smallest = std::min<int>(smallest, choice.Place.Given().Boxes);
-    std::erase_if(choices, [=](const Choice& c) { return c.Place.Given().Boxes > smallest; });
+    const auto boxesOf = [](const Choice& choice) { return choice.Place.Given().Boxes; };
+    const Integer smallest = boxesOf(*std::ranges::min_element(choices, {}, boxesOf));
+    std::erase_if(choices, [&](const Choice& choice) { return boxesOf(choice) > smallest; });
 }
 
 // What a decliner leaves of a run that was given to him.
@@ -36,9 +38,8 @@ int BoxesDeclined(const Run& run) {
 void Position::Add(Piece& piece, int times) {
     Code = Code + (times > 0 ? piece.Code : -piece.Code);
     Runs += piece.RunCount() * times;
-    const auto share =
-        std::lower_bound(Shares.begin(), Shares.end(), piece.Number,
-                         [](const Share& s, int wanted) { return s.Of->Number < wanted; });
+    const auto numberOf = [](const Share& s) { return s.Of->Number; };
+    const auto share = std::ranges::lower_bound(Shares, piece.Number, {}, numberOf);
     if (share == Shares.end() || share->Of != &piece)
         Shares.insert(share, {&piece, times});
     else if ((share->Count += times) == 0)
@@ -65,24 +66,26 @@ std::vector<double> GiveawaySearch::Judge(const std::vector<Run>& runs,
     AllRuns = Left.Runs;
     Values.Clear(Left.Runs);
 
-    std::vector<double> margins(candidates.size(), std::numeric_limits<double>::lowest());
-    std::vector<double> judged = margins;
-    Round = FirstRound;
+    std::vector<double> margins(candidates.size(), Unjudged);
+    std::vector<double> marginsBefore;
+    std::vector<int> order(candidates.size());
+    std::iota(order.begin(), order.end(), 0);
     try {
-        do {
-            for (std::size_t i = 0; i < candidates.size(); ++i)
-                judged.at(i) = ValueOfGiveaway({}, places.at(candidates.at(i)));
-            margins = judged;
-        } while (++Round < Left.Runs);
+        for (Round = FirstRound;; Round += RoundsApart) {
+            std::ranges::stable_sort(order, {}, [&](int i) { return -margins.at(i); });
+            marginsBefore = std::exchange(margins, std::vector(candidates.size(), Unjudged));
+            for (const int i : order)
+                margins.at(i) = ValueOfGiveaway({}, places.at(candidates.at(i)));
+            if (Round >= Left.Runs - 1) // all behind the first giveaway
+                return margins;
+        }
     } catch (const Interruption&) {
-        // On the largest fields the candidates judged by then, the smallest, may have to do.
-        return Round == FirstRound ? judged : margins;
+        return margins.at(order.front()) == Unjudged ? marginsBefore : margins;
     }
-    return margins;
 }
 
 double GiveawaySearch::ValueOf(const Turn& turn) {
-    double best = std::numeric_limits<double>::lowest();
+    double best = Unjudged;
     double sum = 0;
     int count = 0;
     for (const Choice& choice : ChoicesOf(turn)) {
@@ -105,10 +108,8 @@ std::vector<Choice> GiveawaySearch::ChoicesOf(const Turn& turn) {
         const Run& run = piece->Runs.front();
         const bool isAlone = piece->RunCount() == 1;
         if (isAlone && run.IsRing() && run.Boxes == 4 && !isAverage &&
-            OpponentKindOf(turn) == ComputerCheat) {
-            choices.assign(1, {{piece, 0}, count});
-            break;
-        }
+            OpponentKindOf(turn) == ComputerCheat)
+            return {{{piece, 0}, count}};
         if (isAlone && run.Boxes > smallest.at(MannerOf(run)) && !HasKind(ComputerAverage))
             continue;
         for (int position = 0; position < piece->RunCount(); ++position)
@@ -145,9 +146,7 @@ void GiveawaySearch::KeepCheapest(const Turn& turn, std::vector<Choice>& choices
     std::size_t count = KindOf(turn) == ComputerCheat ? CheapestOfCheatFollowed : CheapestFollowed;
     if (AllRuns - Round > RunsOfWideRounds || KindOf(turn) == ComputerAverage)
         count = 1;
-    std::stable_sort(choices.begin(), choices.end(), [&](const Choice& a, const Choice& b) {
-        return CostOf(turn, a.Place) < CostOf(turn, b.Place);
-    });
+    std::ranges::stable_sort(choices, {}, [&](const Choice& c) { return CostOf(turn, c.Place); });
     choices.resize(std::min(choices.size(), count));
 }
 
@@ -220,7 +219,7 @@ double GiveawaySearch::ValueAfter(const Turn& turn, RunPlace place, int nextPlay
     if (EndsTheGame(place))
         return 0;
     const bool isExact = Left.Runs + place.Given().RunChange <= Round;
-    const bool isReply = turn.Level == 0 && Kinds.at(1 - nextPlayer) != ComputerCheat;
+    const bool isReply = turn.Level == 0 && nextPlayer == 1 && Kinds[0] != ComputerCheat;
     const bool followsAll = isExact || (isReply && Round >= FirstRoundOfAllReplies);
     // Exact values serve every round, others only their own.
     const std::uint32_t kind = 4U * (isExact ? 0 : Round) + 2U * followsAll + nextPlayer;
@@ -228,7 +227,7 @@ double GiveawaySearch::ValueAfter(const Turn& turn, RunPlace place, int nextPlay
     if (const float* known = Values.Find(code, kind))
         return *known;
     Left.Open(place, 1);
-    CountSteps(1 + static_cast<long>(Left.Shares.size()) / SmallThingsPerStep);
+    CountSteps(1 + static_cast<long>(Left.Shares.size()) / KindsOfPiecesPerStep);
     const double value = ValueOf({turn.Level + 1, nextPlayer, followsAll});
     Left.Open(place, -1);
     Values.Store(code, kind, value);
@@ -237,7 +236,7 @@ double GiveawaySearch::ValueAfter(const Turn& turn, RunPlace place, int nextPlay
 
 void GiveawaySearch::CountSteps(long steps) {
     const long before = StepsLeft;
-    StepsLeft -= steps + Catalogue.TakeSteps() / SmallThingsPerStep;
+    StepsLeft -= steps + Catalogue.TakeSteps() / RunsPerStep;
     if (before / StepsBetweenYields != StepsLeft / StepsBetweenYields) {
         YieldToEvents(0);
         if (Game.ProgramEnding || Game.QuitRequested)

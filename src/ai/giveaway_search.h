@@ -3,6 +3,7 @@
 
 #include <array>
 #include <cstdint>
+#include <limits>
 #include <vector>
 
 #include "ai/pieces.h"
@@ -35,16 +36,18 @@ struct Choice {
 // the cheapest choices. What it has judged exactly serves the rounds behind it.
 class GiveawaySearch {
 public:
-    // A step is a position set up, worth about half a microsecond. A third of them has sufficed for
-    // every round up to twenty-four runs, and all of them mostly up to twenty-seven.
-    static constexpr long UsualSteps = 1'200'000;
+    // A step is a position set up, worth about half a microsecond. Half of them has sufficed for
+    // every round up to twenty-four runs, and all of them up to twenty-six.
+    static constexpr long UsualSteps = 1'700'000;
+
+    static constexpr double Unjudged = std::numeric_limits<double>::lowest();
 
     // For a player of kind `mover`, one of the stronger computers, who must give away.
     GiveawaySearch(int mover, int opponent, long steps = UsualSteps);
 
     // The margin still to come for each of the `candidates`, positions in `runs`, when its row is
-    // the choice: as the last round says that the steps suffice for, which is exact if none is
-    // left. Yields in between; once the game is to end the margins mean little.
+    // the choice, by the last round begun: exact if none is left. It judges the best first; what
+    // the steps end before is `Unjudged`. Yields; once the game is to end margins mean little.
     std::vector<double> Judge(const std::vector<Run>& runs, const std::vector<int>& candidates);
 
 private:

@@ -3,8 +3,6 @@
 #include <algorithm>
 #include <numeric>
 
-#include "base/integer.h"
-
 namespace {
 
 int JointCount(const std::vector<Run>& runs) {
@@ -139,8 +137,7 @@ void RenumberJoints(std::vector<Run>& runs) {
     const std::vector<std::uint64_t> signatures = JointSignatures(runs, joints);
     std::vector<int> order(static_cast<std::size_t>(joints));
     std::iota(order.begin(), order.end(), 1);
-    std::stable_sort(order.begin(), order.end(),
-                     [&](int a, int b) { return signatures.at(a) < signatures.at(b); });
+    std::ranges::stable_sort(order, {}, [&](int joint) { return signatures.at(joint); });
     std::vector<int> newNumber(signatures.size(), 0);
     int count = 0;
     for (const int joint : order)

@@ -12,7 +12,7 @@
 class ValueMemory {
 public:
     static constexpr int SlotsPerRow = 8;
-    static constexpr int MostRowBits = 18;
+    static constexpr int MostRowBits = 19;
     static constexpr long MostValues = long{SlotsPerRow} << MostRowBits;
 
     // Forgets everything, and makes room for positions of so many runs.
