@@ -85,6 +85,7 @@ TEST_F(DeepChoice, IsThatOfTheLastRoundBegunWhenTheStepsEnd) {
     SeedRandom(10);
     SetUpGame(10, 9, ComputerCheat, ComputerIntelligent);
     DrawSafeLines();
+    EXPECT_EQ(SortedMargins({3, 2}, 0).back(), -1) << "a single box costs least at once";
     std::vector<double> round = SortedMargins({3, 2});
     std::set<std::vector<double>> rounds;
     bool wasCutShort = false;

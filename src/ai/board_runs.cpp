@@ -21,8 +21,7 @@ public:
 
 private:
     void ReadRunThrough(int box) {
-        Run run;
-        run.Boxes = 1;
+        Run run{.Boxes = 1};
         IsRead.at(box) = true;
         const int firstLine = FirstUndrawnSide(box);
         run.Ends[0] = Follow(box, firstLine, run.Boxes);

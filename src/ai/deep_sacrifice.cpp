@@ -10,6 +10,7 @@
 #include "core/rules/pacing.h"
 #include "core/state/game_state.h"
 #include "core/state/work_lists.h"
+#include "platform/desktop.h"
 
 namespace {
 
@@ -32,7 +33,9 @@ std::vector<double> JudgeRows() {
     for (const RiskyLine& row : Work.RiskyLines)
         candidates.push_back(board.RunOfLine.at(row.Line));
     GiveawaySearch search(Game.PlayerKind.at(mover), Game.PlayerKind.at(OtherPlayer(mover)));
-    return search.Judge(board.Runs, candidates);
+    std::vector<double> margins = search.Judge(board.Runs, candidates);
+    YieldToEvents(0); // to forget all that was found out takes some time, too
+    return margins;
 }
 
 // Puts the best rows first and returns how many are equally good. A damaged board may leave none,

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <numeric>
-#include <utility>
 
 #include "core/state/game_state.h"
 #include "platform/desktop.h"
@@ -66,7 +65,9 @@ std::vector<double> GiveawaySearch::Judge(const std::vector<Run>& runs,
     AllRuns = Left.Runs;
     Values.Clear(Left.Runs);
 
-    std::vector<double> margins(candidates.size(), Unjudged);
+    std::vector<double> margins; // before the first round, what is given at once
+    for (const int candidate : candidates)
+        margins.push_back(-places.at(candidate).Given().Boxes);
     std::vector<double> marginsBefore;
     std::vector<int> order(candidates.size());
     std::iota(order.begin(), order.end(), 0);
@@ -154,6 +155,7 @@ void GiveawaySearch::KeepCheapest(const Turn& turn, std::vector<Choice>& choices
 // else every run that goes with the one opened, and forces nobody any more, is worth two boxes.
 int GiveawaySearch::CostOf(const Turn& turn, RunPlace place) {
     const Giveaway& given = Catalogue.Open(place);
+    CountSteps(0); // for it may have taken long
     if (OpponentKindOf(turn) != ComputerCheat)
         return given.Boxes + 2 * given.RunChange;
     return given.Boxes > 2 ? given.Boxes - 2 * BoxesDeclined(place.Opened()) : given.Boxes;

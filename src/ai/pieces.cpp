@@ -44,11 +44,10 @@ private:
                 for (const int end : Left.at(i).Ends)
                     if (end == joint)
                         ways.push_back(static_cast<int>(i));
-        if (ways.size() == 1) {
+        if (ways.size() == 1)
             Take(ways.at(0));
-        } else if (ways.size() == 2) {
+        else if (ways.size() == 2)
             Join(joint, ways.at(0), ways.at(1));
-        }
     }
 
     void Join(int joint, int first, int second) {
