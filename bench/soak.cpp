@@ -6,7 +6,7 @@
 #include <random>
 #include <string>
 
-#include "anything.h"
+#include "support/anything.h"
 #include "support/board.h"
 #include "support/files.h"
 #include "support/person.h"

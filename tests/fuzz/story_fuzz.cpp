@@ -2,10 +2,10 @@
 #include <algorithm>
 #include <utility>
 
-#include "anything.h"
 #include "fuzz/target.h"
 #include "storage/saved_game.h"
 #include "storage/value_file.h"
+#include "support/anything.h"
 #include "support/files.h"
 #include "support/person.h"
 #include "ui/commands.h"

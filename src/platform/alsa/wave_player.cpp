@@ -16,7 +16,7 @@
 #include <vector>
 
 #include "base/files.h"
-#include "platform/qt/alsa_library.h"
+#include "platform/alsa/alsa_library.h"
 #include "platform/wave_file.h"
 #include "platform/wave_player.h"
 

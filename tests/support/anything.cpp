@@ -1,4 +1,4 @@
-#include "anything.h"
+#include "support/anything.h"
 
 #include <algorithm>
 #include <iterator>
