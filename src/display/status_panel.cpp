@@ -39,8 +39,8 @@ void ShowPlayerStatus(int player) {
     const std::string& name = Game.PlayerName.at(player);
     const std::string status = name + ": " + NumberField(Game.PlayerScore.at(player)) +
                                std::string(5, ' ') + KindWord(Game.PlayerKind.at(player));
-    (player == 1 ? frmQuibsMain.txtPlayer1Status : frmQuibsMain.txtPlayer2Status) = {status,
-                                                                                     name.size()};
+    TextBox& shown = player == 1 ? frmQuibsMain.txtPlayer1Status : frmQuibsMain.txtPlayer2Status;
+    shown = {status, name.size()};
     ShowPlayerColor(player);
 }
 
