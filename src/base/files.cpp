@@ -16,7 +16,7 @@ namespace {
 constexpr int AlwaysWith = O_NONBLOCK | O_NOCTTY | O_CLOEXEC;
 
 struct stat StatusOf(const OpenFile& file) {
-    struct stat status {};
+    struct stat status = {};
     if (fstat(file.Descriptor, &status) != 0)
         status = {};
     return status;
@@ -41,7 +41,7 @@ std::string FollowLinks(std::filesystem::path name) {
 }
 
 bool IsThere(const std::string& name) {
-    struct stat status {};
+    struct stat status = {};
     return lstat(name.c_str(), &status) == 0 || errno != ENOENT;
 }
 
@@ -58,7 +58,7 @@ bool TakeLock(const OpenFile& file) {
 
 bool IsStillNamed(const OpenFile& file, const std::string& name) {
     const struct stat own = StatusOf(file);
-    struct stat named {};
+    struct stat named = {};
     return lstat(name.c_str(), &named) == 0 && own.st_dev == named.st_dev &&
            own.st_ino == named.st_ino;
 }

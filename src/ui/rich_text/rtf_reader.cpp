@@ -35,8 +35,9 @@ const std::unordered_map<Word, bool RichRunFormat::*> Switches = {{"b", &RichRun
                                                                   {"ul", &RichRunFormat::Underline},
                                                                   {"v", &RichRunFormat::Hidden}};
 
+using ParagraphLength = int RichParagraphFormat::*;
 struct LengthWord {
-    int RichParagraphFormat::*Length;
+    ParagraphLength Length;
     int Longest;
 };
 
