@@ -201,6 +201,41 @@ TEST_F(TurnLoop, AsksThePersonWhomADialogPutInThePlaceOfAChoosingComputer) {
     EXPECT_TRUE(Game.ProgramEnding);
 }
 
+// Commands that arrive together: the second comes while the question of the first is open.
+TEST_F(TurnLoop, CarriesOutNothingWhileAQuestionIsOpen) {
+    for (const Command asking : {Command::Quit, Command::Exit})
+        for (int second = 0; second < static_cast<int>(CommandCount); ++second) {
+            StartFresh();
+            Prepare(3, ComputerAverage, ComputerCheat, {1});
+            const MainWindowControls prepared = frmQuibsMain;
+            TheNullDesktop.Answers = {No, Yes};
+            TheNullDesktop.WhenAsked = [&] {
+                RunCommand(static_cast<Command>(second));
+                OpenGame(QUIBLINK_TESTS "/samples/one_box.qbs");
+                SaveGameAs(".", "saved");
+                EXPECT_EQ(frmQuibsMain, prepared) << second;
+            };
+            RunCommand(asking);
+            RunCommand(asking);
+            EXPECT_EQ(TheNullDesktop.Boxes.size(), 2) << second;
+            EXPECT_TRUE(TheNullDesktop.Forms.empty());
+            EXPECT_FALSE(std::filesystem::exists("saved.qbs"));
+            asking == Command::Quit ? ExpectGivenUp() : ExpectClosed();
+        }
+}
+
+TEST_F(TurnLoop, LooksAgainForTheGameThatAQuestionWasAbout) {
+    TheNullDesktop.WhenAsked = AbandonGame; // as after a failure
+    for (const Command asking : {Command::Quit, Command::Save}) {
+        Prepare(3, ComputerAverage, ComputerCheat, {1});
+        TheNullDesktop.Answers = {Yes};
+        PutBytes("saved.qbs", "mine");
+        asking == Command::Quit ? RunCommand(asking) : (void)SaveGameAs(".", "saved");
+        ExpectGivenUp();
+        EXPECT_EQ(BytesOf("saved.qbs"), "mine");
+    }
+}
+
 TEST_F(TurnLoop, EndsAFullBoardInsteadOfPausingIt) {
     Prepare(2, ComputerCheat, Humanoid, {1, 2, 3, 4, 6, 7});
     AfterSeconds(0.1, mnuPause_Click); // when the cheat has taken the last box itself

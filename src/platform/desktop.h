@@ -19,9 +19,13 @@ enum class MessageButtons { Ok, YesNo };
 enum class MessageAnswer { Ok, Yes, No };
 
 // Shows a box modal to the whole application and blocks until it is answered. `text` is plain text.
-// A box that the end of the program closes answers Ok or No.
+// Events that are queued already, and timers, run inside this call. A box that the end of the
+// program closes answers Ok or No.
 MessageAnswer ShowMessageBox(const std::string& text, const std::string& title, MessageIcon icon,
                              MessageButtons buttons);
+
+// Whether such a box, or a dialog that the main window waits for, is open.
+bool IsQuestionOpen();
 
 // Whether somebody listens instead of looking. Asked before each text is composed, since a screen
 // reader may come and go at any time; costs nanoseconds.

@@ -189,8 +189,8 @@ bool ReadGame() {
 }
 
 void SaveGame(const std::string& path) {
-    if (FileExists(path) && !MayReplace(path))
-        return;
+    if (FileExists(path) && (!MayReplace(path) || !IsEnabled(Command::Save)))
+        return; // the game may have failed under the question
     try {
         WriteFile(path, GameAsText());
     } catch (const std::exception&) {

@@ -34,6 +34,15 @@ bool Confirms(const char* question, const char* title) {
            MessageAnswer::Yes;
 }
 
+bool IsGameUnderWay() {
+    return Game.GameInPlay || Game.GamePaused;
+}
+
+// A command comes late when it was posted before another that took it away, or that asks something.
+bool MayRun(Command command) {
+    return IsEnabled(command) && !IsQuestionOpen() && !Game.ProgramEnding;
+}
+
 // Sets up a game whose opening is filled in, to be started later.
 void DrawGame() {
     NewGame();
@@ -139,7 +148,7 @@ void RunGuarded(const std::function<void()>& handler) {
 }
 
 void RunCommand(Command command) {
-    if (!IsEnabled(command) || Game.ProgramEnding)
+    if (!MayRun(command))
         return;
     Handlers.at(static_cast<std::size_t>(command))();
 }
@@ -159,7 +168,7 @@ void Form_Load() {
 }
 
 bool Form_Resize() {
-    return !FieldIsRedrawn() && (Game.GamePaused || Game.GameInPlay) && !Game.ResizeWarningShown;
+    return !FieldIsRedrawn() && IsGameUnderWay() && !Game.ResizeWarningShown;
 }
 
 void ShowResizeWarning() {
@@ -186,8 +195,7 @@ void mnuSave_Click() {
 }
 
 void mnuExit_Click() {
-    if ((Game.GameInPlay || Game.GamePaused) &&
-        !Confirms("A game is in progress, exit anyway?", "Exit the Game"))
+    if (IsGameUnderWay() && !Confirms("A game is in progress, exit anyway?", "Exit the Game"))
         return;
     SaveSettings();
     Form_Unload();
@@ -201,12 +209,12 @@ void mnuStart_Click() {
 }
 
 void mnuAuto_Click() {
-    if (!Game.GameInPlay && !Game.GamePaused)
+    if (!IsGameUnderWay())
         RunGameCommand(Command::Auto);
 }
 
 void mnuDraw_Click() {
-    if (!Game.GameInPlay && !Game.GamePaused)
+    if (!IsGameUnderWay())
         RunGameCommand(Command::Draw);
 }
 
@@ -230,10 +238,11 @@ void mnuPause_Click() {
 }
 
 void mnuQuit_Click() {
-    if (!Game.GameInPlay && !Game.GamePaused)
+    if (!IsGameUnderWay())
         return;
-    Game.QuitRequested =
+    const bool isSure =
         Confirms("Are you sure you want to quit the current game?", "Quit the Game");
+    Game.QuitRequested = isSure && IsGameUnderWay(); // which may have failed under the question
     if (!Game.QuitRequested)
         return;
     if (Game.GamePaused)
@@ -274,14 +283,14 @@ void mnuAbout_Click() {
 }
 
 void OpenGame(const std::string& path) {
-    if (!IsEnabled(Command::Open) || Game.GameInPlay || Game.ProgramEnding)
+    if (!MayRun(Command::Open) || Game.GameInPlay)
         return;
     Game.GameToOpen = path;
     RunGameCommand(Command::Open);
 }
 
 bool SaveGameAs(const std::string& directory, const std::string& name) {
-    if (!IsEnabled(Command::Save) || Game.ProgramEnding)
+    if (!MayRun(Command::Save))
         return true;
     if (name.empty()) {
         ShowMessageBox("File name must be specified.", "Quibs Game Save Error",

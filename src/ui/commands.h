@@ -11,8 +11,8 @@
 // not the program.
 void RunGuarded(const std::function<void()>& handler);
 
-// Carries out a command if it is enabled; one that arrives late, after its state changed, does
-// nothing.
+// Carries out a command if it is enabled and no question is open. Commands are queued, so that two
+// may arrive together: one that the other has overtaken does nothing.
 void RunCommand(Command command);
 
 // Start-up, before the window is shown: screen factors, the window's place, settings, status lines,

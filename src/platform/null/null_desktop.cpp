@@ -18,6 +18,7 @@ struct ScriptedEvent {
 
 std::vector<ScriptedEvent> script; // in the order of their times
 std::string waveFile;
+int openBoxes = 0;
 
 constexpr double SecondsPerDay = 86400;
 
@@ -51,6 +52,19 @@ void SleepAtMost(double seconds) {
     if (!script.empty())
         sleep = std::clamp(script.front().Due - TheNullDesktop.SecondsWaited, 0.0, sleep);
     AdvanceClock(sleep);
+}
+
+void LiveThroughBox() {
+    ++openBoxes;
+    try {
+        if (TheNullDesktop.WhenAsked)
+            TheNullDesktop.WhenAsked();
+        RunDueEvents();
+    } catch (...) {
+        --openBoxes;
+        throw;
+    }
+    --openBoxes;
 }
 
 void Draw(Drawing::Kind kind, int fromX, int fromY, int toX, int toY, Color color) {
@@ -92,9 +106,14 @@ MessageAnswer ShowMessageBox(const std::string& text, const std::string& title, 
     TheNullDesktop.Boxes.push_back({text, title, icon, buttons});
     if (TheNullDesktop.Answers.empty())
         throw std::logic_error("an unexpected message box: " + text);
+    LiveThroughBox();
     const MessageAnswer answer = TheNullDesktop.Answers.front();
     TheNullDesktop.Answers.pop_front();
     return answer;
+}
+
+bool IsQuestionOpen() {
+    return openBoxes > 0;
 }
 
 bool IsListenedTo() {

@@ -35,6 +35,8 @@ struct NullDesktop {
     double ScreenWidth = 19200; // twips
 
     std::deque<MessageAnswer> Answers; // a box that finds none fails the test
+    // Called while a box is open, before the events that are due.
+    std::function<void()> WhenAsked;
     // Called when the game sleeps for an event and no event is due: a person who may now act. A
     // game that sleeps for ever without one fails the test.
     std::function<void()> WhenIdle;
@@ -58,5 +60,5 @@ extern NullDesktop TheNullDesktop;
 // A fresh desktop with nothing scripted or logged.
 void ResetNullDesktop();
 
-// Runs `event` inside the first yield at or after so many seconds from now.
+// Runs `event` inside the first yield or box at or after so many seconds from now.
 void AfterSeconds(double seconds, std::function<void()> event);

@@ -57,6 +57,10 @@ MessageAnswer ShowMessageBox(const std::string& text, const std::string& title, 
     return isAccepted ? MessageAnswer::Yes : MessageAnswer::No;
 }
 
+bool IsQuestionOpen() {
+    return QApplication::activeModalWidget() != nullptr;
+}
+
 bool IsListenedTo() {
     return QAccessible::isActive();
 }
