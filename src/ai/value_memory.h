@@ -46,7 +46,9 @@ private:
         std::array<Slot, SlotsPerRow> Slots;
     };
 
-    std::size_t PlaceOf(std::uint64_t code) const { return code & (Rows.size() - 1); }
+    std::size_t PlaceOf(std::uint64_t code) const {
+        return static_cast<std::size_t>(code) & (Rows.size() - 1);
+    }
 
     static std::uint32_t CheckOf(std::uint64_t code, std::uint32_t kind) {
         return static_cast<std::uint32_t>(code >> 32U) ^ (0x9E3779B1U * kind);
