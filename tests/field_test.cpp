@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "core/play/game_setup.h"
+#include "core/state/grid.h"
 #include "display/safe_lines.h"
 #include "storage/saved_game.h"
 #include "support/game_test.h"

@@ -1,6 +1,6 @@
 #include "ai/board_runs.h"
 
-#include "core/state/game_state.h"
+#include "core/state/grid.h"
 
 namespace {
 

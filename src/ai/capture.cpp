@@ -2,7 +2,7 @@
 
 #include "core/rules/moves.h"
 #include "core/rules/pacing.h"
-#include "core/state/game_state.h"
+#include "core/state/grid.h"
 
 int FindCaptureBox() {
     for (int box = 1; box <= Game.BoxCount; ++box)
@@ -12,9 +12,7 @@ int FindCaptureBox() {
 }
 
 bool TakesABox(int line) {
-    const Line& candidate = Game.Lines.at(line);
-    return candidate.Drawn == 0 && (Game.Boxes.at(candidate.FirstBox).SidesDrawn == 3 ||
-                                    Game.Boxes.at(candidate.SecondBox).SidesDrawn == 3);
+    return Game.Lines.at(line).Drawn == 0 && HasBoxBeside(line, 3);
 }
 
 void Capture(int line) {

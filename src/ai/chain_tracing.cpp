@@ -1,10 +1,8 @@
 #include "ai/chain_tracing.h"
 
-#include <algorithm>
-#include <array>
 #include <vector>
 
-#include "core/state/game_state.h"
+#include "core/state/grid.h"
 #include "core/state/work_lists.h"
 
 namespace {
@@ -49,14 +47,7 @@ private:
 PlayOut playOut;
 
 int FirstSideLeft(int box) {
-    for (const Integer side : Game.Boxes.at(box).Sides)
-        if (!playOut.IsDrawn(side))
-            return side;
-    return 0;
-}
-
-std::array<Integer, 2> BoxesBeside(int line) {
-    return {Game.Lines.at(line).FirstBox, Game.Lines.at(line).SecondBox};
+    return FirstSide(box, [](int side) { return !playOut.IsDrawn(side); });
 }
 
 void CompleteBoxesBeside(int line) {
@@ -81,11 +72,6 @@ void Walk(int box, int line, CountedList<Integer>& lines) {
         CompleteBoxesBeside(line);
         box = BoxAcross(line, box);
     } while (box != 0 && playOut.SidesDrawn(box) == 3);
-}
-
-bool HasSide(int box, int line) {
-    const auto& sides = Game.Boxes.at(box).Sides;
-    return std::find(sides.begin(), sides.end(), line) != sides.end();
 }
 
 } // namespace

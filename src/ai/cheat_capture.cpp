@@ -4,23 +4,18 @@
 
 #include "ai/capture.h"
 #include "ai/chain_tracing.h"
-#include "core/state/game_state.h"
+#include "core/state/grid.h"
 #include "core/state/work_lists.h"
 
 namespace {
 
 int FirstDrawnSide(int box) {
-    for (const Integer side : Game.Boxes.at(box).Sides)
-        if (Game.Lines.at(side).Drawn != 0)
-            return side;
-    return 0;
+    return FirstSide(box, [](int side) { return Game.Lines.at(side).Drawn != 0; });
 }
 
 bool ChainTouches(int line) {
-    return std::any_of(Work.ChainBoxes.begin(), Work.ChainBoxes.end(), [line](Integer box) {
-        const auto& sides = Game.Boxes.at(box).Sides;
-        return std::find(sides.begin(), sides.end(), line) != sides.end();
-    });
+    return std::any_of(Work.ChainBoxes.begin(), Work.ChainBoxes.end(),
+                       [line](int box) { return HasSide(box, line); });
 }
 
 void TakeChainsNotOpenedBy(int lastLine) {
@@ -74,15 +69,9 @@ void TakeSingleBoxes() {
             Capture(Game.ChosenLine);
             Game.ChosenLine = Work.ChainTailLines.at(1);
         }
-    } else if (Work.ChainTailLines.Count() == 1) {
+    } else {
         Game.ChosenLine = Work.ChainTailLines.at(1);
     }
-}
-
-bool StandsBesideACaptureBox(int line) {
-    const Line& drawn = Game.Lines.at(line);
-    return Game.Boxes.at(drawn.FirstBox).SidesDrawn == 3 ||
-           Game.Boxes.at(drawn.SecondBox).SidesDrawn == 3;
 }
 
 } // namespace
@@ -90,7 +79,7 @@ bool StandsBesideACaptureBox(int line) {
 void CheatTakeBoxes() {
     const int lastLine = Game.LastLine;
     TakeChainsNotOpenedBy(lastLine);
-    if (!StandsBesideACaptureBox(lastLine))
+    if (!HasBoxBeside(lastLine, 3))
         return;
     TraceChain(lastLine);
     if (Work.ChainLines.Count() < 2 && Work.ChainTailLines.Count() < 2) {

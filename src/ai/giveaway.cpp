@@ -15,8 +15,7 @@ void GatherGiveaway(int line) {
 
 void GiveAwayLine(int line) {
     GatherGiveaway(line);
-    const Integer kind = Game.PlayerKind.at(Game.CurrentPlayer);
-    if (Work.ChainBoxes.Count() != 2 || kind == Humanoid || kind == ComputerAverage) {
+    if (Work.ChainBoxes.Count() != 2 || !KindOf(Game.CurrentPlayer).ChoosesDeeply) {
         Game.ChosenLine = Work.ChainLines.at(RandomPick(Work.ChainLines.Count()));
         return;
     }

@@ -7,7 +7,7 @@
 #include "ai/sacrifice.h"
 #include "base/random.h"
 #include "core/rules/pacing.h"
-#include "core/state/game_state.h"
+#include "core/state/grid.h"
 #include "core/state/work_lists.h"
 #include "display/safe_lines.h"
 
@@ -78,7 +78,7 @@ void ChooseComputerMove() {
     const int captureBox = FindCaptureBox();
     if (captureBox == 0)
         ChooseSafeOrRiskyLine();
-    else if (!Game.HintMode && Game.PlayerKind.at(Game.CurrentPlayer) == ComputerCheat)
+    else if (!Game.HintMode && KindOf(Game.CurrentPlayer).Declines)
         TakeAsCheat(captureBox);
     else
         TakeWholeChain(captureBox);

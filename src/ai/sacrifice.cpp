@@ -90,7 +90,7 @@ void ChooseSacrifice() {
     SizeRiskyLines();
     KeepOneLinePerGiveaway();
     SortAndDropNoCandidates();
-    if (Game.PlayerKind.at(Game.CurrentPlayer) > ComputerAverage)
+    if (KindOf(Game.CurrentPlayer).ChoosesDeeply)
         ChooseSacrificeDeep();
     else
         ChooseSmallestGiveaway();

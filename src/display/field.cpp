@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-#include "core/state/game_state.h"
+#include "core/state/grid.h"
 #include "platform/picture.h"
 
 namespace {
@@ -77,25 +77,6 @@ int RowsThatFit() {
     return BoxesThatFit(PictureHeight(), Game.PointSpacingY);
 }
 
-int FieldColumns() {
-    return Game.PointSpacingX > 0 ? (Game.FieldRight - Game.FieldLeft) / Game.PointSpacingX : 0;
-}
-
-int FieldRows() {
-    return Game.PointSpacingY > 0 ? (Game.FieldBottom - Game.FieldTop) / Game.PointSpacingY : 0;
-}
-
-bool TablesMatchField() {
-    const int columns = FieldColumns();
-    const int rows = FieldRows();
-    // The first comparisons keep the products below within an int.
-    return columns > 0 && columns <= Game.BoxCount && rows > 0 && rows <= Game.BoxCount &&
-           Game.BoxCount == columns * rows && Game.HorizontalLineCount == columns * (rows + 1) &&
-           Game.LineCount == Game.HorizontalLineCount + (columns + 1) * rows &&
-           Game.Boxes.size() == static_cast<std::size_t>(Game.BoxCount) + 1 &&
-           Game.Lines.size() == static_cast<std::size_t>(Game.LineCount) + 1;
-}
-
 void PlaceField(int columns, int rows) {
     const int width = columns * Game.PointSpacingX;
     const int height = rows * Game.PointSpacingY;
@@ -114,13 +95,12 @@ void BuildField() {
         for (int row = 0; row <= rows; ++row) {
             const int x = Game.FieldLeft + column * Game.PointSpacingX;
             const int y = Game.FieldTop + row * Game.PointSpacingY;
-            const int number = row * columns + column + 1; // of the top line and of its box
-            const int box = column < columns && row < rows ? number : 0;
+            const int top = LineAt({false, row, column}); // which its box is numbered after
+            const int box = column < columns && row < rows ? top : 0;
             if (column < columns)
-                EnterLine(number, x, y, box, {Top, Bottom, columns});
+                EnterLine(top, x, y, box, {Top, Bottom, columns});
             if (row < rows)
-                EnterLine(Game.HorizontalLineCount + column * rows + row + 1, x, y, box,
-                          {Left, Right, rows});
+                EnterLine(LineAt({true, row, column}), x, y, box, {Left, Right, rows});
         }
     }
 }

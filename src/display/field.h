@@ -15,14 +15,6 @@ int BoxesThatFit(int pictureSize, int spacing);
 int ColumnsThatFit();
 int RowsThatFit();
 
-// Columns and rows of the field on screen. The settings `GridColumns` and `GridRows` belong to the
-// next game and may differ. 0 while there is no field.
-int FieldColumns();
-int FieldRows();
-
-// Whether the counts and tables are those of a field of that size. A damaged file may leave others.
-bool TablesMatchField();
-
 // Sets the four edges of a field of so many boxes, centred on the picture.
 void PlaceField(int columns, int rows);
 

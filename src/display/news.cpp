@@ -1,7 +1,6 @@
 #include "display/news.h"
 
-#include "core/state/game_state.h"
-#include "display/field.h"
+#include "core/state/grid.h"
 #include "display/status_panel.h"
 #include "display/words.h"
 #include "platform/desktop.h"
@@ -11,7 +10,7 @@ namespace {
 constexpr float SecondsBetweenScores = 15;
 
 bool ComputersPlayEachOther() {
-    return Game.PlayerKind.at(1) != Humanoid && Game.PlayerKind.at(2) != Humanoid;
+    return IsComputer(1) && IsComputer(2);
 }
 
 std::string FieldInWords() {
@@ -28,11 +27,8 @@ std::string ScoreInWords() {
 // The last line, if it passed the turn and is new. One that took a box was drawn by the player who
 // is still to move and knows it.
 std::string NewLineOfOther() {
-    const Line& last = Game.Lines.at(Game.LastLine);
-    if (Game.LastLine == Game.Told.LastLine || Game.Boxes.at(last.FirstBox).SidesDrawn == 4 ||
-        Game.Boxes.at(last.SecondBox).SidesDrawn == 4)
-        return "";
-    return LineInWords(Game.LastLine);
+    const bool isTold = Game.LastLine == Game.Told.LastLine || HasBoxBeside(Game.LastLine, 4);
+    return isTold ? "" : LineInWords(Game.LastLine);
 }
 
 // "Guardian drew across, row 3, column 4, and took 2 boxes".

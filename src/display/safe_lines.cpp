@@ -3,7 +3,7 @@
 #include <vector>
 
 #include "base/random.h"
-#include "core/state/game_state.h"
+#include "core/state/grid.h"
 #include "core/state/work_lists.h"
 #include "display/field.h"
 #include "display/status_panel.h"
@@ -57,9 +57,8 @@ void AddSide(int box, SafeLineList& safeLines) {
 } // namespace
 
 bool IsSafeLine(int line) {
-    const Line& candidate = Game.Lines.at(line);
-    return Game.Boxes.at(candidate.FirstBox).SidesDrawn < 2 &&
-           Game.Boxes.at(candidate.SecondBox).SidesDrawn < 2;
+    const auto [first, second] = BoxesBeside(line);
+    return Game.Boxes.at(first).SidesDrawn < 2 && Game.Boxes.at(second).SidesDrawn < 2;
 }
 
 void DrawSafeLines() {
@@ -67,12 +66,11 @@ void DrawSafeLines() {
     while (!safeLines.IsEmpty()) {
         const Integer line = safeLines.Pick();
         safeLines.Remove(line);
-        Line& drawn = Game.Lines.at(line);
-        drawn.Drawn = line;
+        Game.Lines.at(line).Drawn = line;
         Increase(Game.LinesDrawn, 1);
         DrawLine(line, Game.PointColor);
-        AddSide(drawn.FirstBox, safeLines);
-        AddSide(drawn.SecondBox, safeLines);
+        for (const Integer box : BoxesBeside(line))
+            AddSide(box, safeLines);
     }
     Game.ChosenLine = 0;
     ShowLinesStatus();

@@ -12,19 +12,6 @@ std::string NumberField(int number) {
     return padded.substr(padded.size() - width);
 }
 
-std::string KindWord(int kind) {
-    switch (kind) {
-    case ComputerAverage:
-        return "Average";
-    case ComputerIntelligent:
-        return "Intelligent";
-    case ComputerCheat:
-        return "Cheat";
-    default:
-        return "Humanoid";
-    }
-}
-
 Label TurnCaption(int player) {
     return {TurnText(player), Game.PlayerName.at(player).size()};
 }
@@ -38,15 +25,11 @@ std::string CounterText(const char* name, int count, int total) {
 void ShowPlayerStatus(int player) {
     const std::string& name = Game.PlayerName.at(player);
     const std::string status = name + ": " + NumberField(Game.PlayerScore.at(player)) +
-                               std::string(5, ' ') + KindWord(Game.PlayerKind.at(player));
+                               std::string(5, ' ') + KindOf(player).Word;
     TextBox& shown = player == 1 ? frmQuibsMain.txtPlayer1Status : frmQuibsMain.txtPlayer2Status;
     shown = {status, name.size()};
-    ShowPlayerColor(player);
-}
-
-void ShowPlayerColor(int player) {
-    const Color color = Game.PlayerColor.at(player);
-    (player == 1 ? frmQuibsMain.shpPlayer1Status : frmQuibsMain.shpPlayer2Status).FillColor = color;
+    Shape& swatch = player == 1 ? frmQuibsMain.shpPlayer1Status : frmQuibsMain.shpPlayer2Status;
+    swatch.FillColor = Game.PlayerColor.at(player);
 }
 
 void ShowBoxesStatus() {

@@ -8,7 +8,6 @@
 
 // Name, score, kind and colour of `player`. Throws std::out_of_range unless that is 1 or 2.
 void ShowPlayerStatus(int player);
-void ShowPlayerColor(int player);
 
 void ShowBoxesStatus();
 void ShowLinesStatus();

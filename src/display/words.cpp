@@ -3,23 +3,21 @@
 #include <algorithm>
 #include <array>
 
-#include "core/state/game_state.h"
-#include "display/field.h"
+#include "core/state/grid.h"
 
 namespace {
 
-int BoxesBesideWith(int sidesDrawn, const Line& line) {
+int BoxesBesideWith(int sidesDrawn, int line) {
     int count = 0;
-    for (const Integer box : {line.FirstBox, line.SecondBox})
+    for (const Integer box : BoxesBeside(line))
         count += Game.Boxes.at(box).SidesDrawn == sidesDrawn ? 1 : 0;
     return count;
 }
 
 std::string EffectInWords(int line) {
-    const Line& candidate = Game.Lines.at(line);
-    if (const int closed = BoxesBesideWith(3, candidate); closed > 0)
+    if (const int closed = BoxesBesideWith(3, line); closed > 0)
         return closed == 1 ? "closes a box" : "closes two boxes";
-    if (const int given = BoxesBesideWith(2, candidate); given > 0)
+    if (const int given = BoxesBesideWith(2, line); given > 0)
         return given == 1 ? "gives a box away" : "gives two boxes away";
     return "free";
 }
@@ -54,14 +52,9 @@ int Distance(Color first, Color second) {
 std::string LineInWords(int line) {
     if (line < 1 || line > Game.LineCount || !TablesMatchField())
         return "";
-    const bool isAcross = line <= Game.HorizontalLineCount;
-    const int place = isAcross ? line - 1 : line - 1 - Game.HorizontalLineCount;
-    const int perRun = isAcross ? FieldColumns() : FieldRows();
-    const int run = place / perRun + 1; // lines across run in rows, lines down in columns
-    const int inRun = place % perRun + 1;
-    return std::string(isAcross ? "across" : "down") + ", row " +
-           std::to_string(isAcross ? run : inRun) + ", column " +
-           std::to_string(isAcross ? inRun : run);
+    const LinePlace place = PlaceOf(line);
+    return std::string(place.IsVertical ? "down" : "across") + ", row " +
+           std::to_string(place.Row + 1) + ", column " + std::to_string(place.Column + 1);
 }
 
 std::string GhostLineInWords() {

@@ -8,7 +8,6 @@
 #include "core/state/game_state.h"
 #include "display/field.h"
 #include "display/sound.h"
-#include "display/status_panel.h"
 #include "storage/value_file.h"
 
 namespace {
@@ -36,19 +35,19 @@ void SetBuiltInValues() {
 
 // The values in the order of the file; `visit` reads or writes each of them.
 template <class Visit>
-void VisitSettings(GameState& game, Visit visit) {
-    visit(game.BackgroundColor);
-    visit(game.ComputerGhostColor);
-    visit(game.GhostColor);
-    visit(game.PointColor);
-    visit(game.GridColumns);
-    visit(game.GridRows);
+void VisitSettings(Settings& settings, Visit visit) {
+    visit(settings.BackgroundColor);
+    visit(settings.ComputerGhostColor);
+    visit(settings.GhostColor);
+    visit(settings.PointColor);
+    visit(settings.GridColumns);
+    visit(settings.GridRows);
     for (const int player : {1, 2}) {
-        visit(game.PlayerColor.at(player));
-        visit(game.PlayerName.at(player));
-        visit(game.PlayerKind.at(player));
+        visit(settings.PlayerColor.at(player));
+        visit(settings.PlayerName.at(player));
+        visit(settings.PlayerKind.at(player));
     }
-    visit(game.SoundOn);
+    visit(settings.SoundOn);
 }
 
 } // namespace
@@ -59,8 +58,6 @@ void SetDefaults() {
     SetBuiltInValues();
     ReadConfiguration();
     frmQuibsMain.picPlayingField.BackColor = Game.BackgroundColor;
-    ShowPlayerColor(1);
-    ShowPlayerColor(2);
     StateOf(Command::Sound).Checked = Game.SoundOn;
     FindOutcomeSounds();
 }
@@ -68,9 +65,9 @@ void SetDefaults() {
 void ReadConfiguration() {
     try {
         OpenForInput(FileName);
-        GameState withSettings = Game;
-        VisitSettings(withSettings, [](auto& value) { ReadValue(value); });
-        Game = std::move(withSettings);
+        Settings read = Game;
+        VisitSettings(read, [](auto& value) { ReadValue(value); });
+        static_cast<Settings&>(Game) = std::move(read);
     } catch (const std::exception&) {
         // Without a whole file the settings stay as they are.
     }

@@ -5,7 +5,7 @@
 #include <stdexcept>
 
 #include "base/files.h"
-#include "core/state/game_state.h"
+#include "core/state/grid.h"
 #include "core/state/work_lists.h"
 #include "display/command_states.h"
 #include "display/field.h"

@@ -4,7 +4,7 @@
 #include <stdexcept>
 
 #include "base/random.h"
-#include "display/field.h"
+#include "core/state/grid.h"
 #include "storage/value_file.h"
 #include "ui/commands.h"
 

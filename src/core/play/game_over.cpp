@@ -23,8 +23,7 @@ void ShowWinner(int winner) {
     ShowCaptions({"The Winner Is:"}, {name, name.size()}, winner);
     ShowAllMarkers(false);
     FillAllMarkers(Game.PlayerColor.at(winner));
-    const bool isComputer = Game.PlayerKind.at(winner) != Humanoid;
-    PlaySound(NextSound(isComputer ? Game.ComputerWinSounds : Game.HumanWinSounds));
+    PlaySound(NextSound(IsComputer(winner) ? Game.ComputerWinSounds : Game.HumanWinSounds));
 }
 
 void ShowDraw() {

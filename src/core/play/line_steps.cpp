@@ -3,8 +3,7 @@
 #include <cstdlib>
 #include <limits>
 
-#include "core/state/game_state.h"
-#include "display/field.h"
+#include "core/state/grid.h"
 
 namespace {
 
@@ -17,20 +16,13 @@ struct Middle {
 };
 
 Middle MiddleOf(int line) {
-    if (!IsVertical(line)) {
-        const int index = line - 1;
-        return {2 * (index % FieldColumns()) + 1, 2 * (index / FieldColumns())};
-    }
-    const int index = line - Game.HorizontalLineCount - 1;
-    return {2 * (index / FieldRows()), 2 * (index % FieldRows()) + 1};
+    const LinePlace first = PlaceOf(line);
+    return {2 * first.Column + (first.IsVertical ? 0 : 1),
+            2 * first.Row + (first.IsVertical ? 1 : 0)};
 }
 
 int LineAt(Middle middle) {
-    const int column = middle.X / 2;
-    const int row = middle.Y / 2;
-    if (middle.X % 2 == 1)
-        return row * FieldColumns() + column + 1;
-    return Game.HorizontalLineCount + column * FieldRows() + row + 1;
+    return LineAt(LinePlace{middle.X % 2 == 0, middle.Y / 2, middle.X / 2});
 }
 
 // The undrawn line of that orientation whose middle is reached at the lowest cost, 0 = none; of two
@@ -120,5 +112,5 @@ int UndrawnLineNear(int line) {
 }
 
 int MiddleLine() {
-    return LineAt({2 * (FieldColumns() / 2) + 1, 2 * (FieldRows() / 2)});
+    return LineAt(LinePlace{false, FieldRows() / 2, FieldColumns() / 2});
 }

@@ -3,7 +3,7 @@
 #include <cmath>
 
 #include "ai/move_selection.h"
-#include "core/state/game_state.h"
+#include "core/state/grid.h"
 #include "display/field.h"
 #include "display/news.h"
 
@@ -16,7 +16,7 @@ constexpr int ClearOfSecond = 6; // from its second point
 
 bool PersonIsAwaited() {
     return Game.GameInPlay && !Game.GamePaused && !Game.QuitRequested && !Game.MouseDownSeen &&
-           IsPlayer(Game.CurrentPlayer) && Game.PlayerKind.at(Game.CurrentPlayer) == Humanoid;
+           IsPlayer(Game.CurrentPlayer) && !IsComputer(Game.CurrentPlayer);
 }
 
 void RestoreComputerLine() {
@@ -56,7 +56,7 @@ CellPosition Locate(float position, int first, int last, int spacing, int pixel)
 }
 
 // The line at (x, y), drawn or not; 0 = none. The horizontal one is tried first and wins.
-int LineAt(float x, float y) {
+int LineNear(float x, float y) {
     if (!IsInReach(x, Game.FieldLeft, Game.FieldRight, Game.TwipsPerPixelX) ||
         !IsInReach(y, Game.FieldTop, Game.FieldBottom, Game.TwipsPerPixelY))
         return 0;
@@ -65,9 +65,9 @@ int LineAt(float x, float y) {
     const CellPosition down =
         Locate(y, Game.FieldTop, Game.FieldBottom, Game.PointSpacingY, Game.TwipsPerPixelY);
     if (across.IsClearOfPoints() && down.IsAtPoints())
-        return (down.NearestPoints() - 1) * FieldColumns() + across.Cell;
+        return LineAt({false, down.NearestPoints() - 1, across.Cell - 1});
     if (down.IsClearOfPoints() && across.IsAtPoints())
-        return Game.HorizontalLineCount + (across.NearestPoints() - 1) * FieldRows() + down.Cell;
+        return LineAt({true, down.Cell - 1, across.NearestPoints() - 1});
     return 0;
 }
 
@@ -117,7 +117,7 @@ int AskComputerForHint() {
 void ShowGhostLine(float x, float y) {
     if (Game.HintMode)
         return;
-    PreviewInstead(PersonIsAwaited() && TablesMatchField() ? LineAt(x, y) : 0);
+    PreviewInstead(PersonIsAwaited() && TablesMatchField() ? LineNear(x, y) : 0);
 }
 
 void MoveGhostLine(Direction direction) {

@@ -3,7 +3,7 @@
 #include <stdexcept>
 
 #include "core/rules/pacing.h"
-#include "core/state/game_state.h"
+#include "core/state/grid.h"
 #include "display/field.h"
 #include "display/sound.h"
 #include "display/status_panel.h"
@@ -17,16 +17,10 @@ int SidesDrawn(int box) {
 
 // Whether the line gives the opponent a box together with another that could be taken instead.
 bool GivesAwayATakeableBox(int line) {
-    const Line& chosen = Game.Lines.at(line);
-    if (SidesDrawn(chosen.FirstBox) == 3 || SidesDrawn(chosen.SecondBox) == 3)
+    if (HasBoxBeside(line, 3) || !HasBoxBeside(line, 2))
         return false;
-    int given = 0;
-    if (SidesDrawn(chosen.FirstBox) == 2)
-        given = chosen.FirstBox;
-    else if (SidesDrawn(chosen.SecondBox) == 2)
-        given = chosen.SecondBox;
-    else
-        return false;
+    const auto [first, second] = BoxesBeside(line);
+    const int given = SidesDrawn(first) == 2 ? first : second;
     return SidesDrawn(BoxAcross(FirstUndrawnSide(given, line), given)) == 3;
 }
 
@@ -45,7 +39,7 @@ void RecordLine(Integer number) {
     Game.LastLine = number;
     DrawLine(number, Game.PointColor);
     ShowLinesStatus();
-    for (const Integer box : {line.FirstBox, line.SecondBox})
+    for (const Integer box : BoxesBeside(number))
         if (box != 0)
             Increase(Game.Boxes.at(box).SidesDrawn, 1);
     line.Drawn = number;
@@ -62,8 +56,7 @@ void HighlightComputerLine(Integer line) {
 void PassTurn(Integer line) {
     const int mover = Game.CurrentPlayer;
     const int opponent = OtherPlayer(mover);
-    const bool computerToPerson =
-        Game.PlayerKind.at(mover) != Humanoid && Game.PlayerKind.at(opponent) == Humanoid;
+    const bool computerToPerson = IsComputer(mover) && !IsComputer(opponent);
     if (computerToPerson)
         HighlightComputerLine(line);
     Game.CurrentPlayer = ToInteger(opponent);
@@ -92,12 +85,12 @@ void ApplyMove() {
     const Line& line = Game.Lines.at(number);
     if (number < 1 || line.Drawn != 0)
         throw std::logic_error("a line was to be drawn that is no line or is drawn already");
-    if (Game.PlayerKind.at(Game.CurrentPlayer) == Humanoid && !IsLegalMove())
+    if (!IsComputer(Game.CurrentPlayer) && !IsLegalMove())
         return;
     Game.GhostLine = 0;
     RecordLine(number);
     int completed = 0;
-    for (const Integer box : {line.FirstBox, line.SecondBox})
+    for (const Integer box : BoxesBeside(number))
         completed += ClaimIfComplete(box) ? 1 : 0;
     if (completed == 0)
         PassTurn(number);
@@ -106,10 +99,8 @@ void ApplyMove() {
 }
 
 bool IsLegalMove() {
-    const Integer opponentKind = Game.PlayerKind.at(OtherPlayer(Game.CurrentPlayer));
-    if (opponentKind == Humanoid || opponentKind == ComputerCheat)
-        return true;
-    if (!GivesAwayATakeableBox(Game.ChosenLine))
+    if (KindOf(OtherPlayer(Game.CurrentPlayer)).AllowsAnyLine ||
+        !GivesAwayATakeableBox(Game.ChosenLine))
         return true;
     ShowMessageBox("Not a legal move, only legal when opponent is Humanoid or Computer Cheat.",
                    "Illegal Move", MessageIcon::Exclamation, MessageButtons::Ok);

@@ -10,15 +10,3 @@ void ForgetLines() {
     Game.LastLine = 0;
     Game.Told = {};
 }
-
-int BoxAcross(int line, int box) {
-    const Line& crossed = Game.Lines.at(line);
-    return crossed.FirstBox == box ? crossed.SecondBox : crossed.FirstBox;
-}
-
-int FirstUndrawnSide(int box, int leftOut) {
-    for (const Integer side : Game.Boxes.at(box).Sides)
-        if (side != leftOut && Game.Lines.at(side).Drawn == 0)
-            return side;
-    return 0;
-}

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "base/integer.h"
+#include "core/state/player_kinds.h"
 #include "platform/color.h"
 #include "platform/controls.h"
 
@@ -20,12 +21,6 @@ struct PerPlayer {
     const T& at(int player) const { return Values.at(static_cast<std::size_t>(player) - 1); }
     bool operator==(const PerPlayer&) const = default;
 };
-
-// The values of `PlayerKind`. Any value but Humanoid means a computer player.
-inline constexpr Integer Humanoid = 0;
-inline constexpr Integer ComputerAverage = 1;
-inline constexpr Integer ComputerIntelligent = 2;
-inline constexpr Integer ComputerCheat = 3;
 
 struct Line {
     Integer Drawn = 0;     // 0 = not drawn, else the line's own number
@@ -66,26 +61,47 @@ struct ToldNews {
     bool operator==(const ToldNews&) const = default;
 };
 
-struct GameState {
-    // Settings: they survive from game to game.
+// What the players dialog sets ...
+struct PlayerSettings {
     PerPlayer<std::string> PlayerName;
     PerPlayer<Integer> PlayerKind;
     PerPlayer<Color> PlayerColor;
-    Integer GridColumns = 0; // boxes across and down of the next game
+
+    bool operator==(const PlayerSettings&) const = default;
+};
+
+// ... and the grid dialog. The size, in boxes across and down, is that of the next game.
+struct GridSettings {
+    Integer GridColumns = 0;
     Integer GridRows = 0;
     Color BackgroundColor = Black;
     Color PointColor = Black;         // points and drawn lines
     Color GhostColor = Black;         // hover preview and hint
     Color ComputerGhostColor = Black; // the computer's last line while a person considers a reply
+
+    bool operator==(const GridSettings&) const = default;
+};
+
+// They survive from game to game, and from run to run.
+struct Settings : PlayerSettings, GridSettings {
     bool SoundOn = false;
     bool SettingsChanged = false; // since the program started
 
-    // The screen and what was found beside the program at start-up.
+    bool operator==(const Settings&) const = default;
+};
+
+// The screen and what was found beside the program at start-up.
+struct Surroundings {
     Integer TwipsPerPixelX = 1;
     Integer TwipsPerPixelY = 1;
     SoundList ComputerWinSounds, HumanWinSounds, DrawSounds;
 
-    // This game: the field on the picture, in twips ...
+    bool operator==(const Surroundings&) const = default;
+};
+
+// This game: the field, who scored what in it and who is to move.
+struct Board {
+    // Where the field lies on the picture, in twips.
     Integer PointSpacingX = 0;
     Integer PointSpacingY = 0;
     Integer FieldLeft = 0;
@@ -93,9 +109,8 @@ struct GameState {
     Integer FieldTop = 0;
     Integer FieldBottom = 0;
 
-    // ... its lines and boxes, numbered from 1; row 0 is a dummy that stands for none. Horizontal
-    // lines come first, row by row; then vertical lines, column by column. A box has the number of
-    // its top line.
+    // Lines and boxes are numbered from 1, as core/state/grid.h tells; row 0 of their tables is a
+    // dummy that stands for none.
     Integer HorizontalLineCount = 0;
     Integer VerticalLineCount = 0;
     Integer LineCount = 0;
@@ -103,26 +118,33 @@ struct GameState {
     std::vector<Line> Lines = std::vector<Line>(1);
     std::vector<Box> Boxes = std::vector<Box>(1);
 
-    // ... and how far it has come.
     PerPlayer<Integer> PlayerScore;
     Integer LinesDrawn = 0;
     Integer BoxesClaimed = 0;
-    Integer CurrentPlayer = 0;     // 1 or 2 whenever the turn loop runs; 0 = not drawn yet
-    Integer LastLine = 0;          // most recently drawn by either player, 0 = none
+    Integer CurrentPlayer = 0; // 1 or 2 whenever the turn loop runs; 0 = not drawn yet
+    Integer LastLine = 0;      // most recently drawn by either player, 0 = none
+
+    bool operator==(const Board&) const = default;
+};
+
+// This turn: what is shown, told and chosen in it.
+struct Turn {
     Integer ComputerGhostLine = 0; // shown in ComputerGhostColor, 0 = none
     Integer GhostLine = 0;         // shown as preview or hint, 0 = none
     Integer LastGhostLine = 0;     // shown last, where the keys go on; 0 = none yet
-
     ToldNews Told;
 
-    // This turn.
     Integer ChosenLine = 0;    // 0 = no move yet
     bool MouseDownSeen = true; // false only while a person's press would be taken as the move
     bool HintMode = false;     // the computer's chooser is working for a person's hint
     float PointerX = -1;       // where the pointer was seen last on the field, in twips
     float PointerY = -1;
 
-    // Flags through which commands talk to the running turn loop.
+    bool operator==(const Turn&) const = default;
+};
+
+// Flags through which commands talk to the running turn loop and to the window.
+struct Requests {
     bool GameInPlay = false;    // the turn loop is running
     bool GamePaused = false;    // a pause was asked for, or a suspended game waits to be resumed
     bool QuitRequested = false; // the current game is to be abandoned
@@ -133,6 +155,11 @@ struct GameState {
     bool ShowHistory = false;   // the help viewer shows the history, not the help
     bool ProgramEnding = false; // every wait and loop unwinds
 
+    bool operator==(const Requests&) const = default;
+};
+
+// In the order of their lives, the longest first.
+struct GameState : Settings, Surroundings, Board, Turn, Requests {
     bool operator==(const GameState&) const = default;
 };
 
@@ -146,16 +173,14 @@ inline int OtherPlayer(int player) {
     return 3 - player;
 }
 
-inline bool IsVertical(int line) {
-    return line > Game.HorizontalLineCount;
+inline KindTraits KindOf(int player) {
+    return TraitsOf(Game.PlayerKind.at(player));
+}
+
+inline bool IsComputer(int player) {
+    return KindOf(player).IsComputer;
 }
 
 // Forgets every line that was previewed, chosen, drawn last or told: nothing may point into tables
 // that are about to be replaced.
 void ForgetLines();
-
-// The box beyond a line of `box`, 0 = the border.
-int BoxAcross(int line, int box);
-
-// The first side of `box` but `leftOut` still to be drawn, from top to right; 0 = none.
-int FirstUndrawnSide(int box, int leftOut = 0);

@@ -1,0 +1,55 @@
+#include "core/state/grid.h"
+
+#include <algorithm>
+
+int FieldColumns() {
+    return Game.PointSpacingX > 0 ? (Game.FieldRight - Game.FieldLeft) / Game.PointSpacingX : 0;
+}
+
+int FieldRows() {
+    return Game.PointSpacingY > 0 ? (Game.FieldBottom - Game.FieldTop) / Game.PointSpacingY : 0;
+}
+
+bool TablesMatchField() {
+    const int columns = FieldColumns();
+    const int rows = FieldRows();
+    // The first comparisons keep the products below within an int.
+    return columns > 0 && columns <= Game.BoxCount && rows > 0 && rows <= Game.BoxCount &&
+           Game.BoxCount == columns * rows && Game.HorizontalLineCount == columns * (rows + 1) &&
+           Game.LineCount == Game.HorizontalLineCount + (columns + 1) * rows &&
+           Game.Boxes.size() == static_cast<std::size_t>(Game.BoxCount) + 1 &&
+           Game.Lines.size() == static_cast<std::size_t>(Game.LineCount) + 1;
+}
+
+LinePlace PlaceOf(int line) {
+    if (!IsVertical(line))
+        return {false, (line - 1) / FieldColumns(), (line - 1) % FieldColumns()};
+    const int index = line - Game.HorizontalLineCount - 1;
+    return {true, index % FieldRows(), index / FieldRows()};
+}
+
+int LineAt(LinePlace place) {
+    if (!place.IsVertical)
+        return place.Row * FieldColumns() + place.Column + 1;
+    return Game.HorizontalLineCount + place.Column * FieldRows() + place.Row + 1;
+}
+
+int BoxAcross(int line, int box) {
+    const auto [first, second] = BoxesBeside(line);
+    return first == box ? second : first;
+}
+
+bool HasBoxBeside(int line, int sidesDrawn) {
+    const auto [first, second] = BoxesBeside(line);
+    return Game.Boxes.at(first).SidesDrawn == sidesDrawn ||
+           Game.Boxes.at(second).SidesDrawn == sidesDrawn;
+}
+
+bool HasSide(int box, int line) {
+    return FirstSide(box, [line](int side) { return side == line; }) != 0;
+}
+
+int FirstUndrawnSide(int box, int leftOut) {
+    return FirstSide(
+        box, [leftOut](int side) { return side != leftOut && Game.Lines.at(side).Drawn == 0; });
+}
