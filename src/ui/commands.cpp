@@ -1,7 +1,6 @@
 #include "ui/commands.h"
 
 #include <algorithm>
-#include <array>
 #include <exception>
 #include <new>
 #include <stdexcept>
@@ -12,7 +11,6 @@
 #include "core/play/game_setup.h"
 #include "core/play/pointer_input.h"
 #include "core/play/turn_loop.h"
-#include "core/state/game_state.h"
 #include "display/command_states.h"
 #include "display/field.h"
 #include "display/news.h"
@@ -109,12 +107,42 @@ void SaveSettings() {
     }
 }
 
-// In the order of the commands.
-constexpr std::array<void (*)(), CommandCount> Handlers{
-    mnuOpen_Click,  mnuSave_Click,      mnuExit_Click,     mnuStart_Click,
-    mnuAuto_Click,  mnuDraw_Click,      mnuExchange_Click, mnuHint_Click,
-    mnuPause_Click, mnuQuit_Click,      mnuGrid_Click,     mnuPlayers_Click,
-    mnuSound_Click, mnuQuibsHelp_Click, mnuHistory_Click,  mnuAbout_Click};
+void CarryOut(Command command) {
+    switch (command) {
+    case Command::Open:
+        return mnuOpen_Click();
+    case Command::Save:
+        return mnuSave_Click();
+    case Command::Exit:
+        return mnuExit_Click();
+    case Command::Start:
+        return mnuStart_Click();
+    case Command::Auto:
+        return mnuAuto_Click();
+    case Command::Draw:
+        return mnuDraw_Click();
+    case Command::Exchange:
+        return mnuExchange_Click();
+    case Command::Hint:
+        return mnuHint_Click();
+    case Command::Pause:
+        return mnuPause_Click();
+    case Command::Quit:
+        return mnuQuit_Click();
+    case Command::Grid:
+        return mnuGrid_Click();
+    case Command::Players:
+        return mnuPlayers_Click();
+    case Command::Sound:
+        return mnuSound_Click();
+    case Command::QuibsHelp:
+        return mnuQuibsHelp_Click();
+    case Command::History:
+        return mnuHistory_Click();
+    case Command::About:
+        return mnuAbout_Click();
+    }
+}
 
 // Centred by hand for a box of 80 characters.
 std::string CentredLine(const std::string& line) {
@@ -150,7 +178,7 @@ void RunGuarded(const std::function<void()>& handler) {
 void RunCommand(Command command) {
     if (!MayRun(command))
         return;
-    Handlers.at(static_cast<std::size_t>(command))();
+    CarryOut(command);
 }
 
 void Form_Load() {
@@ -299,6 +327,19 @@ bool SaveGameAs(const std::string& directory, const std::string& name) {
     }
     SaveGame(SavePath(directory, name));
     return true;
+}
+
+void SetPlayers(const PlayerSettings& chosen) {
+    Game.SettingsChanged = true;
+    static_cast<PlayerSettings&>(Game) = chosen;
+    ShowPlayerStatus(1);
+    ShowPlayerStatus(2);
+}
+
+void SetGrid(const GridSettings& chosen) {
+    Game.SettingsChanged = true;
+    static_cast<GridSettings&>(Game) = chosen;
+    frmQuibsMain.picPlayingField.BackColor = Game.BackgroundColor;
 }
 
 void picPlayingField_MouseDown() {

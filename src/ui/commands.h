@@ -5,6 +5,7 @@
 #include <functional>
 #include <string>
 
+#include "core/state/game_state.h"
 #include "platform/controls.h"
 
 // Runs an event handler. An unforeseen failure in it is told in a message box and ends the game,
@@ -52,6 +53,12 @@ void OpenGame(const std::string& path);
 // Ok of the save dialog, with the directory of its list and the name typed. False when the dialog
 // is to stay open because the name is missing.
 bool SaveGameAs(const std::string& directory, const std::string& name);
+
+// Ok of the players dialog: shows the players anew, also in a game that is under way.
+void SetPlayers(const PlayerSettings& chosen);
+
+// Ok of the grid dialog: the background changes at once, the rest with what is drawn next.
+void SetGrid(const GridSettings& chosen);
 
 // The keys that play, whatever the desktop calls them.
 enum class FieldKey { Left, Up, Right, Down, Turn, Draw };

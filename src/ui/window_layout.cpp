@@ -3,9 +3,10 @@
 #include <algorithm>
 #include <cmath>
 
+#include "platform/picture.h"
+
 namespace {
 
-constexpr int LargestPicture = 32767;
 constexpr int PictureMargins = 120; // left and right of the picture together
 
 int Centred(int available, int size) {

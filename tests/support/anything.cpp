@@ -4,7 +4,6 @@
 #include <iterator>
 
 #include "core/play/game_setup.h"
-#include "display/status_panel.h"
 #include "support/person.h"
 #include "ui/commands.h"
 
@@ -17,22 +16,24 @@ int TakeDigit(std::uint32_t& number, std::uint32_t count) {
     return static_cast<int>(digit);
 }
 
-// What the dialogs store.
-void StoreGrid(std::uint32_t choice) {
+void ChooseGrid(std::uint32_t choice) {
     FitGridToPicture();
-    Game.GridColumns = ToInteger(1 + TakeDigit(choice, 5));
-    Game.GridRows = ToInteger(1 + TakeDigit(choice, 4));
-    Game.BackgroundColor = frmQuibsMain.picPlayingField.BackColor = TakeDigit(choice, 3);
-    Game.PointColor = BrightWhite - TakeDigit(choice, 3);
+    GridSettings chosen = Game;
+    chosen.GridColumns = ToInteger(1 + TakeDigit(choice, 5));
+    chosen.GridRows = ToInteger(1 + TakeDigit(choice, 4));
+    chosen.BackgroundColor = TakeDigit(choice, 3);
+    chosen.PointColor = BrightWhite - TakeDigit(choice, 3);
+    SetGrid(chosen);
 }
 
-void StorePlayers(std::uint32_t choice) {
+void ChoosePlayers(std::uint32_t choice) {
+    PlayerSettings chosen;
     for (const int player : {1, 2}) {
-        Game.PlayerKind.at(player) = ToInteger(TakeDigit(choice, 4));
-        Game.PlayerColor.at(player) = TakeDigit(choice, 3);
-        Game.PlayerName.at(player) = TakeDigit(choice, 2) == 0 ? "" : "Ann";
-        ShowPlayerStatus(player);
+        chosen.PlayerKind.at(player) = ToInteger(TakeDigit(choice, 4));
+        chosen.PlayerColor.at(player) = TakeDigit(choice, 3);
+        chosen.PlayerName.at(player) = TakeDigit(choice, 2) == 0 ? "" : "Ann";
     }
+    SetPlayers(chosen);
 }
 
 void Resize(std::uint32_t choice) {
@@ -58,8 +59,8 @@ void PointAnywhere(std::uint32_t choice) {
 void DoAnything(std::uint32_t number) {
     using Thing = void (*)(std::uint32_t);
     constexpr Thing things[] = {
-        StoreGrid,
-        StorePlayers,
+        ChooseGrid,
+        ChoosePlayers,
         Resize,
         PressAnyLine,
         PressAnyLine,

@@ -9,6 +9,7 @@
 #include "core/play/game_setup.h"
 #include "core/state/game_state.h"
 #include "display/field.h"
+#include "ui/commands.h"
 #include "ui/qt/swatch.h"
 
 namespace {
@@ -109,13 +110,13 @@ void GridDialog::cmdGridComputer_Click() {
 }
 
 void GridDialog::cmdOk_Click() {
-    Game.SettingsChanged = true;
-    Game.BackgroundColor = shpGridBckGrnd->FillColor();
-    frmQuibsMain.picPlayingField.BackColor = Game.BackgroundColor;
-    Game.ComputerGhostColor = shpGridComputer->FillColor();
-    Game.GhostColor = shpGridGhost->FillColor();
-    Game.PointColor = shpGridLine->FillColor();
-    StoreBoxCount(comFieldBoxesHorz, Game.GridColumns);
-    StoreBoxCount(comFieldBoxesVert, Game.GridRows);
+    GridSettings chosen = Game;
+    chosen.BackgroundColor = shpGridBckGrnd->FillColor();
+    chosen.ComputerGhostColor = shpGridComputer->FillColor();
+    chosen.GhostColor = shpGridGhost->FillColor();
+    chosen.PointColor = shpGridLine->FillColor();
+    StoreBoxCount(comFieldBoxesHorz, chosen.GridColumns);
+    StoreBoxCount(comFieldBoxesVert, chosen.GridRows);
+    SetGrid(chosen);
     accept();
 }

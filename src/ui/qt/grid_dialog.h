@@ -1,7 +1,6 @@
 // Sets the size of the next game's grid and the colours of the field.
 #pragma once
 
-#include "base/integer.h"
 #include "ui/qt/form_dialog.h"
 
 class QComboBox;

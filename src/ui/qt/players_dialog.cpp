@@ -8,27 +8,14 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QVBoxLayout>
-#include <array>
 
-#include "display/status_panel.h"
+#include "ui/commands.h"
 #include "ui/qt/swatch.h"
 
 namespace {
 
 constexpr int NameWidth = 180; // pixels
 constexpr int SwatchSpacing = 8;
-
-struct KindOption {
-    Integer Kind;
-    const char* ObjectName; // of player %1
-    const char* Caption;
-};
-
-constexpr std::array KindOptions{
-    KindOption{Humanoid, "optPlayer%1Humanoid", "Humanoid"},
-    KindOption{ComputerAverage, "optPlayer%1Average", "Computer Average"},
-    KindOption{ComputerIntelligent, "optPlayer%1Intelligent", "Computer Intelligent"},
-    KindOption{ComputerCheat, "optPlayer%1Cheat", "Computer Cheat"}};
 
 // The Tab key goes to the option that is checked, and passes the others.
 void CheckKind(const QButtonGroup* kinds, int kind) {
@@ -88,9 +75,10 @@ QGroupBox* PlayersDialog::AddKinds(int player, QButtonGroup* kinds) {
     auto* frame = new QGroupBox("Type of Player", this);
     frame->setObjectName(QString("fraPlayer%1SkillLevel").arg(player));
     auto* options = new QVBoxLayout(frame);
-    for (const KindOption& kind : KindOptions) {
-        auto* option = new QRadioButton(kind.Caption, frame);
-        option->setObjectName(QString(kind.ObjectName).arg(player));
+    for (const KindTraits& kind : PlayerKinds) {
+        auto* option =
+            new QRadioButton(QString(kind.IsComputer ? "Computer %1" : "%1").arg(kind.Word), frame);
+        option->setObjectName(QString("optPlayer%1%2").arg(player).arg(kind.Word));
         kinds->addButton(option, kind.Kind);
         options->addWidget(option);
     }
@@ -102,9 +90,8 @@ void PlayersDialog::Form_Load() {
         const PlayerControls& controls = Players.at(player);
         controls.txtName->setText(QString::fromStdString(Game.PlayerName.at(player)));
         controls.shpColor->SetFillColor(Game.PlayerColor.at(player));
-        const Integer kind = Game.PlayerKind.at(player);
-        const bool isKnown = kind >= Humanoid && kind <= ComputerCheat;
-        CheckKind(controls.Kinds, isKnown ? kind : Humanoid);
+        const int kind = KindOf(player).Kind;
+        CheckKind(controls.Kinds, kind == KindCount ? Humanoid : kind);
     }
     Players.at(1).txtName->setFocus();
     Players.at(1).txtName->selectAll();
@@ -119,15 +106,14 @@ void PlayersDialog::cmdPlayer2Color_Click() {
 }
 
 void PlayersDialog::cmdOk_Click() {
-    Game.SettingsChanged = true;
+    PlayerSettings chosen;
     for (const int player : {1, 2}) {
         const PlayerControls& controls = Players.at(player);
         // As displayed: the text itself keeps pasted line breaks.
-        Game.PlayerName.at(player) = controls.txtName->displayText().toStdString();
-        Game.PlayerColor.at(player) = controls.shpColor->FillColor();
-        Game.PlayerKind.at(player) = ToInteger(controls.Kinds->checkedId());
+        chosen.PlayerName.at(player) = controls.txtName->displayText().toStdString();
+        chosen.PlayerColor.at(player) = controls.shpColor->FillColor();
+        chosen.PlayerKind.at(player) = ToInteger(controls.Kinds->checkedId());
     }
-    ShowPlayerStatus(1);
-    ShowPlayerStatus(2);
+    SetPlayers(chosen);
     accept();
 }

@@ -21,11 +21,16 @@ constexpr int BandMargin = 6; // beside the marked line
 constexpr int BarWidth = 4;
 constexpr float BandOpacity = 0.14F;
 
-const auto WidestPlayer = [] { return QStringList{"Guardian:", " 00000", "   Intelligent"}; };
-const auto WidestCounter = [] { return QStringList{"Boxes:", " 00000", " of", " 00000"}; };
-
 enum Column { SwatchColumn, PlayerColumn, GapColumn, CounterColumn };
 enum Row { FirstRow, SecondRow, TurnRow };
+
+QStringList WidestPlayer() {
+    return {"Guardian:", " 00000", "   Intelligent"};
+}
+
+QStringList WidestCounter() {
+    return {"Boxes:", " 00000", " of", " 00000"};
+}
 
 void ShowCaption(StatusLabel* label, const Label& control) {
     label->ShowText(control.Caption, control.NameLength);

@@ -1,7 +1,6 @@
 #include "ui/rich_text/rich_text.h"
 
 #include <algorithm>
-#include <array>
 #include <unordered_map>
 #include <unordered_set>
 #include <utility>
@@ -82,7 +81,7 @@ private:
     void TakeText(std::string_view text);
     bool FormatRun(const RtfToken& word);
     bool FormatParagraph(const RtfToken& word);
-    bool Structure(const RtfToken& word);
+    void Structure(const RtfToken& word);
     void TakeColorWord(const RtfToken& word);
     void EndColors(std::string_view text);
     void AddUnicode(int number);
@@ -137,7 +136,7 @@ void Reader::OpenGroup() {
     FallbackLeft = 0;
     if (Groups.empty())
         Groups.emplace_back();
-    else if (DeeperGroups > 0 || Groups.size() == MostGroups)
+    else if (Groups.size() == MostGroups)
         ++DeeperGroups;
     else
         Groups.emplace_back(Groups.back());
@@ -240,10 +239,10 @@ bool Reader::FormatParagraph(const RtfToken& word) {
     return true;
 }
 
-bool Reader::Structure(const RtfToken& word) {
+void Reader::Structure(const RtfToken& word) {
     const Group& group = Groups.back();
     if (group.Into != Destination::Text)
-        return false;
+        return;
     if (word.Text == "par" || word.Text == "sect" || word.Text == "nestcell")
         Builder.EndParagraph(group.Paragraph, group.IsInTable);
     else if (word.Text == "cell")
@@ -260,9 +259,6 @@ bool Reader::Structure(const RtfToken& word) {
         Groups.back().FallbackLength = std::clamp(word.Number, 0, 16);
     else if (word.Text == "colortbl")
         Groups.back().Into = Destination::Colors;
-    else
-        return false;
-    return true;
 }
 
 void Reader::TakeColorWord(const RtfToken& word) {
