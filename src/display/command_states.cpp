@@ -1,41 +1,37 @@
 #include "display/command_states.h"
 
-#include <array>
+#include <algorithm>
+#include <vector>
 
 namespace {
 
-enum Change { Off, On, Same };
+using enum Command;
 
-constexpr std::array PhaseCommands{Command::Open,  Command::Save,     Command::Start,
-                                   Command::Pause, Command::Quit,     Command::Auto,
-                                   Command::Draw,  Command::Exchange, Command::Hint};
-
-using PhaseRow = std::array<Change, PhaseCommands.size()>;
-
-// clang-format off
-constexpr PhaseRow RowOf(Phase phase) {
+// What is enabled in each phase of the commands that depend on it.
+std::vector<Command> EnabledIn(Phase phase) {
     switch (phase) {
-    //                             Open Save Start Pause Quit Auto Draw XChg Hint
-    case Phase::Idle:           return {On,  Off, On,  Off, Off, On,  On,  Off, Off};
-    case Phase::PersonToMove:   return {Off, Off, Off, On,  On,  Off, Off, Off, On};
-    case Phase::ComputerToMove: return {Off, Off, Off, On,  On,  Off, Off, Off, Off};
-    case Phase::PausePending:   return {Off, On,  On,  Off, On,  Off, Off, Off, Same};
-    case Phase::Paused:         return {Off, On,  On,  Off, On,  Off, Off, Off, Off};
-    case Phase::QuitPending:    return {Off, Off, Off, On,  On,  Off, Off, Off, Same};
-    case Phase::Prepared:       return {Off, On,  On,  Off, On,  Off, Off, On,  Off};
+    case Phase::Idle:
+        return {Open, Start, Auto, Draw};
+    case Phase::PersonToMove:
+        return {Pause, Quit, Hint};
+    case Phase::ComputerToMove:
+    case Phase::QuitPending:
+        return {Pause, Quit};
+    case Phase::PausePending:
+    case Phase::Paused:
+        return {Save, Start, Quit};
+    case Phase::Prepared:
+        return {Save, Start, Quit, Exchange};
     }
     return {};
 }
-// clang-format on
 
 } // namespace
 
 void EnterPhase(Phase phase) {
-    const PhaseRow row = RowOf(phase);
-    for (std::size_t i = 0; i < row.size(); ++i) {
-        if (row.at(i) != Same)
-            StateOf(PhaseCommands.at(i)).Enabled = row.at(i) == On;
-    }
+    const std::vector<Command> enabled = EnabledIn(phase);
+    for (const Command command : {Open, Save, Start, Pause, Quit, Auto, Draw, Exchange, Hint})
+        StateOf(command).Enabled = std::ranges::find(enabled, command) != enabled.end();
 }
 
 bool IsEnabled(Command command) {

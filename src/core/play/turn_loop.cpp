@@ -22,7 +22,7 @@ namespace {
 enum class LoopEnd { BoardFull, Paused, Quit, ProgramEnding };
 
 bool IsPersonsTurn() {
-    return Game.PlayerKind.at(Game.CurrentPlayer) == Humanoid;
+    return !IsComputer(Game.CurrentPlayer);
 }
 
 bool PersonIsToMove() {
@@ -48,7 +48,8 @@ void AskPerson() {
     }
     frmQuibsMain.picPlayingField.MousePointer = PointerShape::Default;
     WaitForPerson();
-    StateOf(Command::Hint).Enabled = false;
+    if (!Game.GamePaused && !Game.QuitRequested)
+        EnterPhase(Phase::ComputerToMove);
 }
 
 void AskComputer() {
