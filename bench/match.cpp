@@ -3,8 +3,10 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdio>
-#include <cstdlib>
 #include <ctime>
+#include <exception>
+#include <stdexcept>
+#include <string>
 #include <vector>
 
 #include "ai/move_selection.h"
@@ -43,7 +45,7 @@ struct Tally {
 
 // Times are the processor's, whatever else runs on the machine. The longest to choose a line, by
 // kind, and the longest without letting the window answer.
-std::vector<double> LongestOfKind(4, 0.0);
+std::vector<double> LongestOfKind(KindCount, 0.0);
 double LongestStretch = 0;
 std::clock_t LastYield = 0;
 
@@ -78,39 +80,66 @@ int PlayOneGame() {
     return Game.PlayerScore.at(1) - Game.PlayerScore.at(2);
 }
 
-Tally PlayMatch(int first, int second, int columns, int rows, int games) {
+Tally PlayMatch(Integer first, Integer second, int columns, int rows, int games) {
     Tally tally;
     Game.GridColumns = ToInteger(columns);
     Game.GridRows = ToInteger(rows);
     for (int game = 0; game < games; ++game) {
         const int seat = 1 + game % 2;
-        Game.PlayerKind.at(seat) = ToInteger(first);
-        Game.PlayerKind.at(OtherPlayer(seat)) = ToInteger(second);
+        Game.PlayerKind.at(seat) = first;
+        Game.PlayerKind.at(OtherPlayer(seat)) = second;
         const int margin = PlayOneGame();
         tally.Count(seat == 1 ? margin : -margin);
     }
     return tally;
 }
 
-} // namespace
+// The kind of computer that is called so. Throws what the caller is to be told.
+Integer KindCalled(const std::string& word) {
+    for (const KindTraits& kind : PlayerKinds)
+        if (kind.IsComputer && (word == kind.Word || word == std::to_string(kind.Kind)))
+            return kind.Kind;
+    throw std::invalid_argument("no kind of computer is called " + word);
+}
 
-int main(int count, char** arguments) {
-    if (count < 6) {
-        std::fprintf(stderr, "usage: match FIRST SECOND COLUMNS ROWS GAMES [SEED]\n");
-        return 2;
-    }
-    const auto number = [&](int position) { return std::atoi(arguments[position]); };
+int PositiveNumber(const std::string& digits) {
+    std::size_t length = 0;
+    const int number = std::stoi(digits, &length);
+    if (number < 1 || length != digits.size())
+        throw std::invalid_argument("no number from 1: " + digits);
+    return number;
+}
+
+void RunMatch(const std::vector<std::string>& arguments) {
+    if (arguments.size() < 5 || arguments.size() > 6)
+        throw std::invalid_argument("usage: match FIRST SECOND COLUMNS ROWS GAMES [SEED]");
+    const Integer first = KindCalled(arguments.at(0));
+    const Integer second = KindCalled(arguments.at(1));
+    const auto number = [&](std::size_t position) {
+        return PositiveNumber(arguments.at(position));
+    };
     // Room for the largest field.
     TheNullDesktop.PictureWidth = TheNullDesktop.PictureHeight = 32700;
     TheNullDesktop.WhenYielding = NoteYield;
     Form_Load();
-    SeedRandom(count > 6 ? number(6) : 1);
-    const Tally tally = PlayMatch(number(1), number(2), number(3), number(4), number(5));
-    std::printf("%d against %d, %d by %d, %d games: points %.1f %%, margin %+.2f (+-%.2f), "
+    SeedRandom(arguments.size() > 5 ? static_cast<std::uint64_t>(number(5)) : 1);
+    const Tally tally = PlayMatch(first, second, number(2), number(3), number(4));
+    std::printf("%s against %s, %d by %d, %d games: points %.1f %%, margin %+.2f (+-%.2f), "
                 "wins %.1f %%, longest choice %.0f ms and %.0f ms, longest stretch %.0f ms\n",
-                number(1), number(2), static_cast<int>(Game.GridColumns),
+                TraitsOf(first).Word, TraitsOf(second).Word, static_cast<int>(Game.GridColumns),
                 static_cast<int>(Game.GridRows), tally.Games, 100 * tally.Points / tally.Games,
                 tally.MeanMargin(), tally.MarginError(), 100.0 * tally.Wins / tally.Games,
-                LongestOfKind.at(number(1)), LongestOfKind.at(number(2)), LongestStretch);
+                LongestOfKind.at(first), LongestOfKind.at(second), LongestStretch);
+}
+
+} // namespace
+
+int main(int count, char** arguments) {
+    try {
+        RunMatch({arguments + 1, arguments + count});
+    } catch (const std::exception& mistake) {
+        std::fprintf(stderr, "match: %s\n", mistake.what());
+        return 2;
+    }
     return 0;
 }

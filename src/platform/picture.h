@@ -7,7 +7,8 @@
 // Twips to one logical pixel, across and down, from 1. Set once, before anything is drawn.
 void SetPictureScale(int twipsPerPixelX, int twipsPerPixelY);
 
-// Inner size in twips, 0 to 32767.
+// Inner size in twips, 0 to LargestPicture.
+inline constexpr int LargestPicture = 32767;
 int PictureWidth();
 int PictureHeight();
 

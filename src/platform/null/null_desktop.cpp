@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "platform/picture.h"
+#include "platform/wave_player.h"
 
 NullDesktop TheNullDesktop;
 

@@ -11,7 +11,6 @@
 
 #include "platform/color.h"
 #include "platform/desktop.h"
-#include "platform/wave_player.h"
 
 struct Drawing {
     enum class Kind { Point, Line, Erasure, Box };

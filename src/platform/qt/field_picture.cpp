@@ -10,8 +10,7 @@ FieldPicture TheFieldPicture;
 
 namespace {
 
-constexpr int LargestPicture = 32767; // twips
-constexpr int DotSize = 3;            // logical pixels
+constexpr int DotSize = 3; // logical pixels
 
 QRgb Opaque(Color color) {
     return ToQColor(color).rgb();
