@@ -17,8 +17,8 @@ TEST_F(News, TellATurnInOneText) {
         if (++turn == 2)
             return mnuPause_Click();
         PointAt(turn == 1 ? 5 : UndrawnLines().front());
-        picPlayingField_MouseMove(Game.PointerX + 1, Game.PointerY); // says nothing new
-        picPlayingField_MouseDown();
+        PointTo({Game.PointerX + 15, Game.PointerY}); // says nothing new
+        PressHere();
     };
     RunCommand(Command::Start);
     RunCommand(Command::Start);

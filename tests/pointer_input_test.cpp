@@ -21,8 +21,8 @@ protected:
 
     // Moves to a place in pixels from the first point.
     static void MoveTo(double x, double y) {
-        picPlayingField_MouseMove(static_cast<float>(Game.FieldLeft + 12 * x),
-                                  static_cast<float>(Game.FieldTop + 15 * y));
+        PointTo({static_cast<float>(Game.FieldLeft + 12 * x),
+                 static_cast<float>(Game.FieldTop + 15 * y)});
     }
 
     // L, U, R and D for the arrows, T turns.
@@ -56,8 +56,8 @@ TEST_F(Pointer, PreviewsTheLineWithinFourPixelsSevenFromItsFirstPointAndSixFromI
                            {12, 5, 0},     {12, 20, 0},  {12, 21, 4},   {37, 25, 5},  {37, 29, 5},
                            {57, 47, 9},    {0, 6, 0},    {0, 7, 10},    {0, 19, 10},  {0, 20, 0},
                            {4, 12, 10},    {5, 12, 0},   {20, 12, 0},   {21, 12, 12}, {50, 37, 15},
-                           {54, 44, 15},   {6.5, 0, 0},  {6.6, 0, 1},   {12, 4.5, 1}, {12, 4.6, 0},
-                           {24.9, 12, 12}, {12, -3, 1},  {12, -3.9, 1}, {12, -4, 0},  {12, 53, 7},
+                           {54, 44, 15},   {6.5, 0, 0},  {12, 4.5, 1},  {6.6, 0, 1},  {12, 4.6, 0},
+                           {24.9, 12, 12}, {12, -3, 1},  {12, -3.9, 1}, {12, 53, 7},  {12, -4, 0},
                            {12, 54, 0},    {-3, 12, 10}, {-4, 12, 0},   {78, 12, 16}, {78, 37, 17},
                            {79, 12, 0},    {0, 0, 0},    {25, 25, 0},   {75, 50, 0},  {12, 12, 0}};
     for (const auto& c : cases) {
@@ -90,7 +90,7 @@ TEST_F(Pointer, ShowsAndTakesNothingUnlessAPersonIsAwaited) {
         if (Game.HintMode)
             continue;
         Game.GhostLine = 5; // shown before
-        picPlayingField_MouseDown();
+        PressHere();
         picPlayingField_KeyDown(FieldKey::Draw);
         PressKeys("LURDT");
         EXPECT_TRUE(Game.ChosenLine == 0 && Game.GhostLine == 5);
@@ -114,15 +114,46 @@ TEST_F(Pointer, ShowsAHintUntilItMovesAndTakesOnePressOnly) {
         EXPECT_EQ(Game.GhostLine, 15) << "the box that can be taken; the pointer did not move";
     }
     MoveTo(12, 12);
-    picPlayingField_MouseDown();
+    PressHere();
     EXPECT_EQ(Game.GhostLine + Game.ChosenLine, 0) << "nothing is previewed";
     mnuHint_Click();
-    picPlayingField_MouseDown();
+    PressHere();
     EXPECT_NE(Last().What, Drawing::Kind::Erasure) << "the drawn line will cover it";
     PressLine(1);
     Game.MouseDownSeen = false;
     mnuHint_Click();
     EXPECT_TRUE(Game.ChosenLine == 15 && Game.GhostLine == 0) << "one press, one line";
+}
+
+// Over dialogs and menus nobody hears how it moves.
+TEST_F(Pointer, MovesFirstWhereItPressesAtAnotherPlaceThanItWasHeardAt) {
+    const PointerPlace overMenu{-500, -300};
+    const PointerPlace line6{static_cast<float>(Game.FieldLeft + 750),
+                             static_cast<float>(Game.FieldTop + 380)};
+    const auto turn = [] { PressKeys("T"); };
+    const auto pointAtFirst = [] { PointAt(1); };
+    const struct {
+        void (*Show)();
+        PointerPlace Press;
+        int Chosen;
+    } cases[] = {{pointAtFirst, overMenu, 0},
+                 {pointAtFirst, line6, 6},
+                 {mnuHint_Click, overMenu, 15},
+                 {mnuHint_Click, {-496, -304}, 15},
+                 {mnuHint_Click, {-492, -300}, 0},
+                 {mnuHint_Click, line6, 6},
+                 {turn, overMenu, 10},
+                 {turn, line6, 6}};
+    DrawForNobody({5, 8, 13});
+    for (const GameState before = Game; const auto& c : cases) {
+        Game = before;
+        PointAt(1);
+        TheNullDesktop.Pointer = overMenu;
+        c.Show();
+        TheNullDesktop.Pointer = c.Press;
+        PressHere();
+        EXPECT_EQ(Game.ChosenLine, c.Chosen) << &c - cases;
+    }
 }
 
 TEST_F(Pointer, IsNotNeededWhereThereAreKeys) {

@@ -145,13 +145,13 @@ const Event Events[] = {
     {"a press that a pause overtakes",
      ExpectPaused,
      {},
-     {PointAtFirstLine, picPlayingField_MouseDown, mnuPause_Click}},
+     {PointAtFirstLine, PressHere, mnuPause_Click}},
     {"Quit", ExpectGivenUp, {Yes}, {mnuQuit_Click}},
     {"Quit after a pause", ExpectGivenUp, {Yes}, {mnuPause_Click, mnuQuit_Click}},
     {"a failure", ExpectGivenUp, {Ok}, {Fail}},
     {"a failing command", ExpectGivenUp, {Ok}, {[] { RunGuarded(Fail); }}},
     {"Exit", ExpectClosed, {Yes}, {mnuExit_Click}},
-    {"closing", ExpectClosed, {}, {PointAtFirstLine, picPlayingField_MouseDown, Form_Unload}},
+    {"closing", ExpectClosed, {}, {PointAtFirstLine, PressHere, Form_Unload}},
 };
 
 class TurnLoop : public GameTest {};

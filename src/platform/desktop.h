@@ -27,6 +27,13 @@ MessageAnswer ShowMessageBox(const std::string& text, const std::string& title, 
 // Whether such a box, or a dialog that the main window waits for, is open.
 bool IsQuestionOpen();
 
+// Where the pointer is, in twips from the corner of the field's picture. It may lie anywhere on the
+// screen, and get from place to place unheard, over a menu or a dialog.
+struct PointerPlace {
+    float X, Y;
+};
+PointerPlace PlaceOfPointer();
+
 // Whether somebody listens instead of looking. Asked before each text is composed, since a screen
 // reader may come and go at any time; costs nanoseconds.
 bool IsListenedTo();

@@ -342,8 +342,8 @@ void SetGrid(const GridSettings& chosen) {
     frmQuibsMain.picPlayingField.BackColor = Game.BackgroundColor;
 }
 
-void picPlayingField_MouseDown() {
-    PressGhostLine();
+void picPlayingField_MouseDown(float x, float y) {
+    PressAt(x, y);
 }
 
 void picPlayingField_KeyDown(FieldKey key) {
@@ -364,11 +364,5 @@ void picPlayingField_KeyDown(FieldKey key) {
 }
 
 void picPlayingField_MouseMove(float x, float y) {
-    // Desktops repeat the last position, as when a window over the field closes; that must not
-    // erase a hint.
-    if (x == Game.PointerX && y == Game.PointerY)
-        return;
-    Game.PointerX = x;
-    Game.PointerY = y;
-    ShowGhostLine(x, y);
+    MovePointer(x, y);
 }

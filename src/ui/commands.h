@@ -63,7 +63,7 @@ void SetGrid(const GridSettings& chosen);
 // The keys that play, whatever the desktop calls them.
 enum class FieldKey { Left, Up, Right, Down, Turn, Draw };
 
-// A press of any button or of a key on the field, and a move to (x, y) in twips.
-void picPlayingField_MouseDown();
+// A press of any button at (x, y) in twips on the field, a move to there, and the press of a key.
+void picPlayingField_MouseDown(float x, float y);
 void picPlayingField_KeyDown(FieldKey key);
 void picPlayingField_MouseMove(float x, float y);

@@ -50,8 +50,8 @@ void PressAnyLine(std::uint32_t choice) {
 }
 
 void PointAnywhere(std::uint32_t choice) {
-    picPlayingField_MouseMove(static_cast<float>(100 * TakeDigit(choice, 90)),
-                              static_cast<float>(100 * TakeDigit(choice, 70)));
+    PointTo({static_cast<float>(100 * TakeDigit(choice, 90)),
+             static_cast<float>(100 * TakeDigit(choice, 70))});
 }
 
 } // namespace
@@ -68,7 +68,7 @@ void DoAnything(std::uint32_t number) {
         [](std::uint32_t) { OpenGame("saved.qbs"); },
         [](std::uint32_t) { SaveGameAs(".", "saved"); },
         [](std::uint32_t) { TheNullDesktop.Clock = 86399.9; }, // midnight is near
-        [](std::uint32_t) { picPlayingField_MouseDown(); },
+        [](std::uint32_t) { PressHere(); },
         [](std::uint32_t command) { RunCommand(static_cast<Command>(command % CommandCount)); }};
     constexpr std::uint32_t commands = 9; // as likely as the other things together
     TheNullDesktop.Answers.assign(9, TakeDigit(number, 4) == 0 ? MessageAnswer::Yes

@@ -17,19 +17,26 @@ void StartFresh() {
     SeedRandom(1);
 }
 
+void PointTo(PointerPlace place) {
+    TheNullDesktop.Pointer = place;
+    RunGuarded([place] { picPlayingField_MouseMove(place.X, place.Y); });
+}
+
 void PointAt(int line) {
-    RunGuarded([line] {
-        const Line& target = Game.Lines.at(line);
-        const bool isVertical = line > Game.HorizontalLineCount;
-        picPlayingField_MouseMove(
-            static_cast<float>(target.X + (isVertical ? 0 : Game.PointSpacingX / 2)),
-            static_cast<float>(target.Y + (isVertical ? Game.PointSpacingY / 2 : 0)));
-    });
+    const Line& target = Game.Lines.at(line);
+    const bool isVertical = line > Game.HorizontalLineCount;
+    PointTo({static_cast<float>(target.X + (isVertical ? 0 : Game.PointSpacingX / 2)),
+             static_cast<float>(target.Y + (isVertical ? Game.PointSpacingY / 2 : 0))});
+}
+
+void PressHere() {
+    const PointerPlace place = TheNullDesktop.Pointer;
+    RunGuarded([place] { picPlayingField_MouseDown(place.X, place.Y); });
 }
 
 void PressLine(int line) {
     PointAt(line);
-    RunGuarded(picPlayingField_MouseDown);
+    PressHere();
 }
 
 std::vector<int> UndrawnLines() {

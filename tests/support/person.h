@@ -12,8 +12,10 @@
 // settings of the current directory.
 void StartFresh();
 
-// Moves the pointer to the middle of a line, and presses there.
+// Moves the pointer, in twips or to the middle of a line, and presses where it is.
+void PointTo(PointerPlace place);
 void PointAt(int line);
+void PressHere();
 void PressLine(int line);
 
 std::vector<int> UndrawnLines();

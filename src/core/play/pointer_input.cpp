@@ -6,6 +6,7 @@
 #include "core/state/grid.h"
 #include "display/field.h"
 #include "display/news.h"
+#include "platform/desktop.h"
 
 namespace {
 
@@ -86,14 +87,28 @@ void PreviewInstead(int line) {
     TellGhostLine();
 }
 
+// A line that is shown without the pointer stays as long as that lies still.
+void LetPointerRest() {
+    const PointerPlace place = PlaceOfPointer();
+    Game.PointerX = place.X;
+    Game.PointerY = place.Y;
+}
+
+// Places may come rounded to pixels.
+bool IsWithinHalfAPixel(float distance, int pixel) {
+    return 2 * std::abs(distance) <= static_cast<float>(pixel);
+}
+
 template <class Step>
 void StepGhostLine(Step leadFrom) {
     if (!PersonIsAwaited() || Game.HintMode || !TablesMatchField())
         return;
     const int last = Game.LastGhostLine > 0 ? Game.LastGhostLine : MiddleLine();
     const int line = Game.GhostLine > 0 ? leadFrom(Game.GhostLine) : UndrawnLineNear(last);
-    if (line != 0)
-        PreviewInstead(line);
+    if (line == 0)
+        return;
+    LetPointerRest();
+    PreviewInstead(line);
 }
 
 // The line that a computer would draw in the person's place.
@@ -113,6 +128,20 @@ int AskComputerForHint() {
 }
 
 } // namespace
+
+void MovePointer(float x, float y) {
+    if (IsWithinHalfAPixel(x - Game.PointerX, Game.TwipsPerPixelX) &&
+        IsWithinHalfAPixel(y - Game.PointerY, Game.TwipsPerPixelY))
+        return;
+    Game.PointerX = x;
+    Game.PointerY = y;
+    ShowGhostLine(x, y);
+}
+
+void PressAt(float x, float y) {
+    MovePointer(x, y);
+    PressGhostLine();
+}
 
 void ShowGhostLine(float x, float y) {
     if (Game.HintMode)
@@ -150,6 +179,7 @@ void ShowHint() {
     RemoveGhostLine();
     const int hint = AskComputerForHint();
     // On a large field the choice yields, and the person may have paused or quit meanwhile.
+    LetPointerRest();
     if (PersonIsAwaited())
         PreviewLine(hint);
     Game.Told.GhostLine = 0; // a hint is told even if it is the line shown before

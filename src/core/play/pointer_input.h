@@ -4,6 +4,14 @@
 
 #include "core/play/line_steps.h"
 
+// The pointer moves to (x, y), in twips. Nothing changes where it lies already: desktops repeat the
+// last place, as when a window over the field closes, and that must not erase a hint.
+void MovePointer(float x, float y);
+
+// A press there. The pointer may have come unheard, over a dialog or a menu, and then it moves
+// first: what is drawn is never far from it, unless it rests since a hint or a key.
+void PressAt(float x, float y);
+
 // Previews the undrawn line nearest to (x, y), in twips, while a person is waited for; erases the
 // preview and the highlight of the computer's last line that were there before.
 void ShowGhostLine(float x, float y);

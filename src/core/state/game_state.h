@@ -137,7 +137,7 @@ struct Turn {
     Integer ChosenLine = 0;    // 0 = no move yet
     bool MouseDownSeen = true; // false only while a person's press would be taken as the move
     bool HintMode = false;     // the computer's chooser is working for a person's hint
-    float PointerX = -1;       // where the pointer was seen last on the field, in twips
+    float PointerX = -1;       // where the pointer was when a line was shown last, in twips
     float PointerY = -1;
 
     bool operator==(const Turn&) const = default;

@@ -117,6 +117,10 @@ bool IsQuestionOpen() {
     return openBoxes > 0;
 }
 
+PointerPlace PlaceOfPointer() {
+    return TheNullDesktop.Pointer;
+}
+
 bool IsListenedTo() {
     return TheNullDesktop.IsListenedTo;
 }

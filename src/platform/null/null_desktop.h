@@ -32,6 +32,7 @@ struct NullDesktop {
     int PictureHeight = 6300;
     double Clock = 36000;       // seconds since midnight
     double ScreenWidth = 19200; // twips
+    PointerPlace Pointer{-1, -1};
 
     std::deque<MessageAnswer> Answers; // a box that finds none fails the test
     // Called while a box is open, before the events that are due.

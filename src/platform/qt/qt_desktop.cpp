@@ -61,6 +61,10 @@ bool IsQuestionOpen() {
     return QApplication::activeModalWidget() != nullptr;
 }
 
+PointerPlace PlaceOfPointer() {
+    return mainWindow.PlaceOfPointer();
+}
+
 bool IsListenedTo() {
     return QAccessible::isActive();
 }

@@ -12,6 +12,7 @@ struct MainWindowActions {
     QWidget* Window = nullptr;
     // Brings the window up to date with the controls' data. Called before every yield and box.
     std::function<void()> ShowControls = [] {};
+    std::function<PointerPlace()> PlaceOfPointer = [] { return PointerPlace{-1, -1}; };
     std::function<void(const std::string&)> Say = [](const std::string&) {};
     std::function<void(Form)> ShowForm = [](Form) {};
     std::function<void(WindowPlace)> Place = [](WindowPlace) {};

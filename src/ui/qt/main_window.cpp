@@ -77,6 +77,7 @@ MainWindow::MainWindow()
     BuildToolBar();
     UseMainWindow({.Window = this,
                    .ShowControls = [this] { ShowControls(); },
+                   .PlaceOfPointer = [this] { return picPlayingField->PlaceOfPointer(); },
                    .Say =
                        [this](const std::string& text) {
                            picPlayingField->Say(QString::fromStdString(text));

@@ -38,6 +38,11 @@ std::optional<FieldKey> FieldKeyOf(const QKeyEvent& event) {
     }
 }
 
+PointerPlace InTwips(QPointF place) {
+    return {static_cast<float>(place.x() * Game.TwipsPerPixelX),
+            static_cast<float>(place.y() * Game.TwipsPerPixelY)};
+}
+
 } // namespace
 
 PlayingField::PlayingField(QWidget* parent) : QWidget(parent) {
@@ -57,6 +62,10 @@ void PlayingField::ShowControls() {
     const bool isBusy = frmQuibsMain.picPlayingField.MousePointer == PointerShape::Hourglass;
     setCursor(isBusy ? Qt::WaitCursor : Qt::ArrowCursor);
     update();
+}
+
+PointerPlace PlayingField::PlaceOfPointer() const {
+    return InTwips(mapFromGlobal(QCursor::pos()));
 }
 
 void PlayingField::Say(const QString& text) {
@@ -119,22 +128,16 @@ void PlayingField::keyPressEvent(QKeyEvent* event) {
     // A held Return would draw line after line, or draw what it first agreed to in a dialog.
     if (key == FieldKey::Draw && event->isAutoRepeat())
         return;
-    StillPointer = QCursor::pos();
     RunGuarded([key] { picPlayingField_KeyDown(*key); });
 }
 
-void PlayingField::mousePressEvent(QMouseEvent* /*event*/) {
+void PlayingField::mousePressEvent(QMouseEvent* event) {
     MarkFocus(false);
-    RunGuarded(picPlayingField_MouseDown);
+    RunGuarded(
+        [place = InTwips(event->position())] { picPlayingField_MouseDown(place.X, place.Y); });
 }
 
 void PlayingField::mouseMoveEvent(QMouseEvent* event) {
-    if (event->globalPosition().toPoint() == StillPointer)
-        return;
-    StillPointer.reset();
-    const QPointF twips(event->position().x() * Game.TwipsPerPixelX,
-                        event->position().y() * Game.TwipsPerPixelY);
-    RunGuarded([twips] {
-        picPlayingField_MouseMove(static_cast<float>(twips.x()), static_cast<float>(twips.y()));
-    });
+    RunGuarded(
+        [place = InTwips(event->position())] { picPlayingField_MouseMove(place.X, place.Y); });
 }

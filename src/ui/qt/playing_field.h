@@ -2,7 +2,8 @@
 #pragma once
 
 #include <QWidget>
-#include <optional>
+
+#include "platform/desktop.h"
 
 class PlayingField : public QWidget {
     Q_OBJECT
@@ -12,6 +13,8 @@ public:
 
     // Shows background and pointer as the controls' data have them.
     void ShowControls();
+
+    PointerPlace PlaceOfPointer() const;
 
     // Says a text to a screen reader as soon as the keyboard is on the field. Only the latest of
     // what waits is said.
@@ -34,6 +37,5 @@ private:
     void MarkFocus(bool isMarked);
 
     QString Unsaid;
-    bool FocusIsMarked = false;         // for who uses the keyboard
-    std::optional<QPoint> StillPointer; // on the screen, as long as it lies where keys found it
+    bool FocusIsMarked = false; // for who uses the keyboard
 };
