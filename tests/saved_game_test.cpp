@@ -5,6 +5,7 @@
 
 #include "base/text_encoding.h"
 #include "display/command_states.h"
+#include "display/field.h"
 #include "storage/value_file.h"
 #include "support/game_test.h"
 #include "ui/commands.h"
@@ -17,13 +18,14 @@ const std::string OtherScreen = QUIBLINK_TESTS "/samples/three_by_two.qbs";
 
 class SavedGame : public GameTest {
 protected:
-    // Opens the sample of one box with one of its lines put in another way, after a larger game.
-    static void OpenWith(int number, const std::string& replacement) {
+    // Opens a sample with one of its lines put in another way, after a larger game.
+    static void OpenWith(int number, const std::string& replacement,
+                         const std::string& sample = OneBox) {
         StartFresh();
         SetUpGame(5, 5, Humanoid, Humanoid);
         Game.GameInPlay = false;
         Game.ComputerGhostLine = 50;
-        std::string bytes = BytesOf(OneBox);
+        std::string bytes = BytesOf(sample);
         std::size_t begin = 0;
         for (int line = 1; line < number; ++line)
             begin = bytes.find('\n', begin) + 1;
@@ -71,6 +73,7 @@ TEST_F(SavedGame, IsSavedByteForByteAndOverAnotherOnlyAfterAYes) {
     EXPECT_TRUE(SaveGameAs(Directory.Path, "game"));
     EXPECT_EQ(BytesOf("game.qbs"), BytesOf(TwoBoxes));
     LoadGame(OtherScreen);
+    EXPECT_EQ(ColumnsThatFit(), 21) << "of the next game, whatever spacing was opened";
     SaveGame("other.qbs");
     EXPECT_EQ(BytesOf("other.qbs"), BytesOf(OtherScreen));
 }
@@ -114,12 +117,48 @@ TEST_F(SavedGame, WithAValueThatCannotBeEndsSilently) {
         EXPECT_FALSE(Game.GamePaused);
         EXPECT_THROW(OpenForInput(OneBox), std::runtime_error) << "the channel stays taken";
         picPlayingField_MouseMove(1, 1); // takes the highlight off a line, if it is still there
+        Form_Resize();
+        EXPECT_EQ(TheNullDesktop.Drawings.empty(), line > 4) << "half of a board is drawn";
+    }
+}
+
+TEST_F(SavedGame, InWhichItIsNobodysTurnGivesWayToAnyOther) {
+    const std::pair<Command, int> boxes[] = {
+        {Command::Start, 1}, {Command::Auto, 100}, {Command::Draw, 100}};
+    for (const auto& [command, count] : boxes) {
+        OpenWith(5, " 3 ");
+        EXPECT_TRUE(Game.GamePaused && IsEnabled(Command::Open));
+        LetPersonsPlay(1);
+        Game.GridColumns = Game.GridRows = 10;
+        RunCommand(command);
+        EXPECT_EQ(Game.BoxCount, count);
+        EXPECT_EQ(Game.BoxesClaimed, command == Command::Draw ? 0 : count);
     }
     OpenWith(5, " 3 ");
-    EXPECT_TRUE(Game.GamePaused && IsEnabled(Command::Open));
-    LetPersonsPlay(1);
-    RunCommand(Command::Start);
-    EXPECT_EQ(Game.BoxesClaimed, 1) << "the board is played on, whoever it was";
+    RunCommand(Command::Exit);
+    EXPECT_TRUE(Game.ProgramEnding) << "asked about a game that nothing shows";
+}
+
+TEST_F(SavedGame, IsPlayedToItsEndOrToldToBeDamagedWhereItBegins) {
+    std::string fates; // when that value is 9: P = played, D = told to be damaged, - = not opened
+    for (int line = 1; line <= 81; ++line) {
+        OpenWith(line, "9", TwoBoxes);
+        if (!Game.GamePaused) {
+            fates += '-';
+            continue;
+        }
+        const bool isShown = !TheNullDesktop.Drawings.empty();
+        LetPersonsPlay(1);
+        TheNullDesktop.Answers = {MessageAnswer::Ok};
+        RunGuarded([] { RunCommand(Command::Start); });
+        const bool isPlayed = Game.BoxCount == 2 && Game.BoxesClaimed == 2 && Game.LinesDrawn == 7;
+        EXPECT_EQ(isPlayed, isShown) << line;
+        EXPECT_EQ(isPlayed, TheNullDesktop.Boxes.empty()) << line;
+        EXPECT_TRUE(IsEnabled(Command::Open) && !Game.GameInPlay && !Game.GamePaused) << line;
+        fates += isPlayed ? 'P' : 'D';
+    }
+    EXPECT_EQ(fates, "DDPPPPPDPPPDPDDDDDD-PPPPPPDDDDDDDPDDDDDP-"
+                     "PPPPPPDDDDDDDDDPDDDDDDDDDPDDDDPDDDDDDDDD");
 }
 
 TEST_F(SavedGame, IsReadFromAnyLineEndsCommasAndQuotes) {

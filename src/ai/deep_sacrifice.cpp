@@ -38,8 +38,7 @@ std::vector<double> JudgeRows() {
     return margins;
 }
 
-// Puts the best rows first and returns how many are equally good. A damaged board may leave none,
-// which is an out-of-range error.
+// Puts the best rows first and returns how many are equally good.
 int OrderBestFirst(const std::vector<double>& margins) {
     double best = margins.at(0);
     for (const double margin : margins)

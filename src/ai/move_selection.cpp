@@ -3,7 +3,6 @@
 #include "ai/capture.h"
 #include "ai/chain_tracing.h"
 #include "ai/cheat_capture.h"
-#include "ai/giveaway.h"
 #include "ai/sacrifice.h"
 #include "base/random.h"
 #include "core/rules/pacing.h"
@@ -53,10 +52,8 @@ void ChooseSafeOrRiskyLine() {
     ClassifyUndrawnLines();
     if (Work.ChainLines.Count() > 0)
         Game.ChosenLine = Work.ChainLines.at(RandomPick(Work.ChainLines.Count()));
-    else if (Work.RiskyLines.Count() > 1)
+    else if (Work.RiskyLines.Count() > 0) // the cheat may have taken the last box
         ChooseSacrifice();
-    else if (Work.RiskyLines.Count() == 1) // on a damaged board: a last line would take a box
-        GiveAwayLine(Work.RiskyLines.at(1).Line);
 }
 
 // The cheat may have drawn every line that takes a box; then it moves on as after any capture.

@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "core/state/grid.h"
+#include "core/state/layout.h"
 #include "platform/picture.h"
 
 namespace {
@@ -40,24 +41,6 @@ void PlotPoints() {
             PlotPoint(x, y, Game.PointColor);
 }
 
-// A side of a box, and how much higher the opposite side's number is.
-struct SidePair {
-    Side Near, Far;
-    int Step;
-};
-
-// Enters a line that starts at (x, y) and is the near side of `box`, 0 = none.
-void EnterLine(int line, int x, int y, int box, const SidePair& sides) {
-    Game.Lines.at(line).X = ToInteger(x);
-    Game.Lines.at(line).Y = ToInteger(y);
-    if (box == 0)
-        return;
-    Game.Boxes.at(box).Sides.at(sides.Near) = ToInteger(line);
-    Game.Boxes.at(box).Sides.at(sides.Far) = ToInteger(line + sides.Step);
-    Game.Lines.at(line).SecondBox = ToInteger(box);
-    Game.Lines.at(line + sides.Step).FirstBox = ToInteger(box);
-}
-
 } // namespace
 
 void ResetPointSpacing() {
@@ -70,11 +53,11 @@ int BoxesThatFit(int pictureSize, int spacing) {
 }
 
 int ColumnsThatFit() {
-    return BoxesThatFit(PictureWidth(), Game.PointSpacingX);
+    return BoxesThatFit(PictureWidth(), PixelsBetweenPoints * Game.TwipsPerPixelX);
 }
 
 int RowsThatFit() {
-    return BoxesThatFit(PictureHeight(), Game.PointSpacingY);
+    return BoxesThatFit(PictureHeight(), PixelsBetweenPoints * Game.TwipsPerPixelY);
 }
 
 void PlaceField(int columns, int rows) {
@@ -89,25 +72,14 @@ void PlaceField(int columns, int rows) {
 void BuildField() {
     ClearPicture();
     PlotPoints();
-    const int columns = FieldColumns();
-    const int rows = FieldRows();
-    for (int column = 0; column <= columns; ++column) {
-        for (int row = 0; row <= rows; ++row) {
-            const int x = Game.FieldLeft + column * Game.PointSpacingX;
-            const int y = Game.FieldTop + row * Game.PointSpacingY;
-            const int top = LineAt({false, row, column}); // which its box is numbered after
-            const int box = column < columns && row < rows ? top : 0;
-            if (column < columns)
-                EnterLine(top, x, y, box, {Top, Bottom, columns});
-            if (row < rows)
-                EnterLine(LineAt({true, row, column}), x, y, box, {Left, Right, rows});
-        }
-    }
+    LayOut(Game);
 }
 
 bool RedrawField() {
-    if (Game.BoxCount == 0 || !TablesMatchField())
+    if (!BoardIsWhole()) {
+        ClearPicture();
         return true;
+    }
     const int newLeft = CentredStart(PictureWidth(), Game.FieldRight - Game.FieldLeft);
     const int newTop = CentredStart(PictureHeight(), Game.FieldBottom - Game.FieldTop);
     if (newLeft < 0 || newTop < 0)

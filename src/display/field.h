@@ -10,7 +10,7 @@ inline constexpr int PixelsBetweenPoints = 25;
 void ResetPointSpacing();
 
 // How many boxes of `spacing` fit into a width or height of the picture, in twips, with one spacing
-// kept free as margin; and how many of the current spacing do.
+// kept free as margin; and how many of the next new game do.
 int BoxesThatFit(int pictureSize, int spacing);
 int ColumnsThatFit();
 int RowsThatFit();
@@ -23,8 +23,8 @@ void PlaceField(int columns, int rows);
 void BuildField();
 
 // Moves the field to the centre of the picture and draws everything again but ghost lines, which
-// are forgotten. False, and nothing is touched, when the field no longer fits. Draws nothing while
-// there is no field or the tables do not match the counts.
+// are forgotten. False, and nothing is touched, when the field no longer fits. While there is no
+// whole board the picture is empty.
 bool RedrawField();
 
 void DrawLine(int line, Color color);

@@ -50,7 +50,7 @@ int Distance(Color first, Color second) {
 } // namespace
 
 std::string LineInWords(int line) {
-    if (line < 1 || line > Game.LineCount || !TablesMatchField())
+    if (line < 1 || line > Game.LineCount)
         return "";
     const LinePlace place = PlaceOf(line);
     return std::string(place.IsVertical ? "down" : "across") + ", row " +

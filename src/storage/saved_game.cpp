@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <exception>
 #include <stdexcept>
+#include <utility>
 
 #include "base/files.h"
 #include "core/state/grid.h"
@@ -172,6 +173,8 @@ bool ReadGame() {
     if (!FitsOnPicture(grid))
         return false;
     ForgetLines();
+    Game.GamePaused = false;
+    Game.Lines.resize(1); // no board is whole before the last value
     Game.PointSpacingX = grid.SpacingX;
     Game.PointSpacingY = grid.SpacingY;
     Game.GridColumns = grid.Columns;
@@ -183,8 +186,10 @@ bool ReadGame() {
     ReadTable(Game.Boxes);
     VisitLineCounts(Read);
     RequireRows(Game.LineCount);
+    std::vector<Line> lines(static_cast<std::size_t>(Game.LineCount) + 1);
+    ReadTable(lines);
     SizeLineTables();
-    ReadTable(Game.Lines);
+    Game.Lines = std::move(lines);
     return true;
 }
 

@@ -32,8 +32,9 @@ bool Confirms(const char* question, const char* title) {
            MessageAnswer::Yes;
 }
 
+// A file in which it is nobody's turn leaves a board that only Start goes on with.
 bool IsGameUnderWay() {
-    return Game.GameInPlay || Game.GamePaused;
+    return Game.GameInPlay || (Game.GamePaused && IsPlayer(Game.CurrentPlayer));
 }
 
 // A command comes late when it was posted before another that took it away, or that asks something.
@@ -57,6 +58,8 @@ void SetUpAndPlay(Command command) {
         return LoadGame(Game.GameToOpen);
     if (command == Command::Draw)
         return DrawGame();
+    if (command == Command::Auto)
+        Game.GamePaused = false;
     if (!Game.GamePaused)
         NewGame();
     if (command == Command::Auto)
@@ -87,15 +90,6 @@ void TakePauseBack() {
         EnterPhase(Phase::QuitPending);
     else
         EnterPhase(Game.MouseDownSeen ? Phase::ComputerToMove : Phase::PersonToMove);
-}
-
-// A damaged file may have left a board that cannot be drawn.
-bool FieldIsRedrawn() {
-    try {
-        return RedrawField();
-    } catch (const std::exception&) {
-        return false;
-    }
 }
 
 // The settings that cannot be written are lost; the program is ending anyway.
@@ -196,7 +190,7 @@ void Form_Load() {
 }
 
 bool Form_Resize() {
-    return !FieldIsRedrawn() && IsGameUnderWay() && !Game.ResizeWarningShown;
+    return !RedrawField() && IsGameUnderWay() && !Game.ResizeWarningShown;
 }
 
 void ShowResizeWarning() {

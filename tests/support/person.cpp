@@ -4,7 +4,7 @@
 #include <stdexcept>
 
 #include "base/random.h"
-#include "core/state/grid.h"
+#include "core/state/layout.h"
 #include "storage/value_file.h"
 #include "ui/commands.h"
 
@@ -63,7 +63,7 @@ bool UseGameBriefly(std::function<void()> meanwhile) {
     bool isWhole = false;
     LetPersonsPlay(1);
     TheNullDesktop.WhenYielding = [&] {
-        isWhole = TablesMatchField();
+        isWhole = BoardIsWhole();
         if (meanwhile)
             meanwhile();
         if (TheNullDesktop.Yields % 8 == 0)

@@ -101,7 +101,7 @@ bool IsWithinHalfAPixel(float distance, int pixel) {
 
 template <class Step>
 void StepGhostLine(Step leadFrom) {
-    if (!PersonIsAwaited() || Game.HintMode || !TablesMatchField())
+    if (!PersonIsAwaited() || Game.HintMode)
         return;
     const int last = Game.LastGhostLine > 0 ? Game.LastGhostLine : MiddleLine();
     const int line = Game.GhostLine > 0 ? leadFrom(Game.GhostLine) : UndrawnLineNear(last);
@@ -146,7 +146,7 @@ void PressAt(float x, float y) {
 void ShowGhostLine(float x, float y) {
     if (Game.HintMode)
         return;
-    PreviewInstead(PersonIsAwaited() && TablesMatchField() ? LineNear(x, y) : 0);
+    PreviewInstead(PersonIsAwaited() ? LineNear(x, y) : 0);
 }
 
 void MoveGhostLine(Direction direction) {

@@ -1,6 +1,6 @@
 #include "core/play/turn_loop.h"
 
-#include <algorithm>
+#include <stdexcept>
 #include <utility>
 
 #include "ai/move_selection.h"
@@ -11,6 +11,7 @@
 #include "core/rules/moves.h"
 #include "core/rules/pacing.h"
 #include "core/state/game_state.h"
+#include "core/state/layout.h"
 #include "display/command_states.h"
 #include "display/news.h"
 #include "display/status_panel.h"
@@ -69,9 +70,10 @@ void NextTurn() {
         AskComputer();
 }
 
-bool NoLineIsLeft() {
-    return std::none_of(Game.Lines.begin() + 1, Game.Lines.end(),
-                        [](const Line& line) { return line.Drawn == 0; });
+// The one look at a board from a file: whatever could keep the loop from ending ends it here.
+void RequireWholeBoard() {
+    if (!Game.QuitRequested && !BoardIsWhole())
+        throw std::logic_error("a board was to be played that cannot be played to its end");
 }
 
 void DrawFirstPlayer() {
@@ -117,10 +119,6 @@ LoopEnd PlayTurns() {
             return LoopEnd::Paused;
         if (Game.ChosenLine != 0)
             ApplyMove();
-        else if (NoLineIsLeft())
-            break;
-        else
-            YieldToEvents(0);
     }
     return LoopEnd::BoardFull;
 }
@@ -156,6 +154,7 @@ void PlayGame() {
     Game.MouseDownSeen = true;
     EnterPhase(Phase::ComputerToMove);
     try {
+        RequireWholeBoard();
         if (Game.GamePaused)
             ResumeTurn();
         else

@@ -10,17 +10,6 @@ int FieldRows() {
     return Game.PointSpacingY > 0 ? (Game.FieldBottom - Game.FieldTop) / Game.PointSpacingY : 0;
 }
 
-bool TablesMatchField() {
-    const int columns = FieldColumns();
-    const int rows = FieldRows();
-    // The first comparisons keep the products below within an int.
-    return columns > 0 && columns <= Game.BoxCount && rows > 0 && rows <= Game.BoxCount &&
-           Game.BoxCount == columns * rows && Game.HorizontalLineCount == columns * (rows + 1) &&
-           Game.LineCount == Game.HorizontalLineCount + (columns + 1) * rows &&
-           Game.Boxes.size() == static_cast<std::size_t>(Game.BoxCount) + 1 &&
-           Game.Lines.size() == static_cast<std::size_t>(Game.LineCount) + 1;
-}
-
 LinePlace PlaceOf(int line) {
     if (!IsVertical(line))
         return {false, (line - 1) / FieldColumns(), (line - 1) % FieldColumns()};

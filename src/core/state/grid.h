@@ -11,9 +11,6 @@
 int FieldColumns();
 int FieldRows();
 
-// Whether the counts and tables are those of a field of that size. A damaged file may leave others.
-bool TablesMatchField();
-
 // Where a line's first point lies, the left or the top one: its row and column, from 0.
 struct LinePlace {
     bool IsVertical;
