@@ -102,6 +102,9 @@ TEST_F(Field, ThatNoLongerFitsIsLeftWhereItWasAndWarnedOfDuringAGame) {
     EXPECT_TRUE(Game == before);
     EXPECT_EQ(TheNullDesktop.Drawings, drawings);
     TheNullDesktop.PictureWidth = 900;
+    TheNullDesktop.PictureHeight = 748;
+    EXPECT_FALSE(RedrawField()) << "too low";
+    TheNullDesktop.PictureHeight = 750;
     ShowResizeWarning();
     EXPECT_TRUE(TheNullDesktop.Boxes.empty()) << "fits again before the warning opens";
     TheNullDesktop.PictureWidth = 898;

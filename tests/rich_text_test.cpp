@@ -90,6 +90,7 @@ TEST(RichText, BombsStayWithinBounds) {
     const std::string close(50'000, '}');
     EXPECT_EQ(Read("{\\rtf1 " + open + "deep" + close + "x}"), "x|");
     EXPECT_TRUE(ReadRichText("{\\rtf1 " + std::string(2 << 20, 'a') + "}").empty());
+    EXPECT_LT(Read("{\\rtf1 " + std::string(1'000'000, 'a') + "}").size(), 65'000u);
     std::string paragraphs, cells;
     for (int count = 0; count < 100'000; ++count) {
         paragraphs += "\\par";

@@ -109,8 +109,8 @@ TEST_F(SavedGame, ThatFailsAfterOpeningLeavesTheChannelTakenAndOtherFilesWhole) 
 
 TEST_F(SavedGame, WithAValueThatCannotBeEndsSilently) {
     const std::vector<std::pair<int, std::string>> faults{
-        {1, " 0 "},        {2, "-375 "}, {3, " 1.5 "},    {5, ""},     {8, " 32768 "}, {9, "one"},
-        {6, "9999999999"}, {20, "-1 "},  {20, " 32767 "}, {35, "-1 "}, {35, " 32767 "}};
+        {1, " 0 "},        {2, " 0 "},  {3, " 1.5 "},    {5, ""},     {8, " 32768 "}, {9, "one"},
+        {6, "9999999999"}, {20, "-1 "}, {20, " 32767 "}, {35, "-1 "}, {35, " 32767 "}};
     for (const auto& [line, value] : faults) {
         OpenWith(line, value);
         EXPECT_TRUE(IsEnabled(Command::Open) && TheNullDesktop.Boxes.empty()) << line << value;
@@ -188,7 +188,8 @@ TEST_F(SavedGame, KeepsEveryName) {
         {"Zo\u00eb \u20ac\u0178", "Zo\xeb \x80\x9f"},
         {"\u03a9 \u4e2d \U0001F600", "\u03a9 \u4e2d \U0001F600"},
         {"\u00c3\u00a9", "\u00c3\u00a9"}, // its Windows-1252 would read as another name
-        {"\u0081\u0085", "\u0081\u0085"}};
+        {"\u0081\u0085", "\u0081\u0085"},
+        {"\U00010000", "\U00010000"}};
     for (const auto& [name, bytes] : cases) {
         EXPECT_EQ(EncodeForFile(name), bytes);
         EXPECT_EQ(DecodeFromFile(bytes), name);

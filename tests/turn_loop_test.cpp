@@ -21,7 +21,6 @@ std::string EnabledCommands() {
 const std::string Idle = "+-+--++--";
 const std::string PersonToMove = "---++---+";
 const std::string ComputerToMove = "---++----";
-const std::string PausePending = "-++-+----";
 const std::string Paused = "-++-+----";
 const std::string Prepared = "-++-+--+-";
 
@@ -175,7 +174,7 @@ TEST_F(TurnLoop, ObeysInTheMiddleOfEveryWaitAndLosesNoTime) {
                 for (const auto& step : event.Steps)
                     step();
                 if (Game.GamePaused)
-                    EXPECT_EQ(EnabledCommands(), PausePending);
+                    EXPECT_EQ(EnabledCommands(), Paused);
                 else if (!Game.QuitRequested)
                     EXPECT_EQ(frmQuibsMain, controls);
                 else

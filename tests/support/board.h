@@ -1,7 +1,7 @@
 // Boards for tests, and what must be true of every board.
 #pragma once
 
-#include <cstdint>
+#include <iosfwd>
 #include <string>
 #include <vector>
 
@@ -12,6 +12,9 @@ bool BoardIsSound();
 
 // Sets up a new game of so many boxes and kinds, player 1 to move, as if it were being played.
 void SetUpGame(int columns, int rows, Integer firstKind, Integer secondKind);
+
+// Names the controls and their values where a comparison of them fails.
+void PrintTo(const MainWindowControls& form, std::ostream* out);
 
 // What the status panel tells of both players, of the boxes and of the lines.
 std::string PanelTexts();
