@@ -5,6 +5,7 @@
 #include <clocale>
 #include <iostream>
 #include <optional>
+#include <string_view>
 
 #include "core/state/game_state.h"
 #include "platform/desktop.h"
@@ -52,13 +53,36 @@ void RequireLocale() {
         qputenv("LC_ALL", "C.UTF-8");
 }
 
+constexpr const char* Usage = "usage: quiblink [SAVED-GAME]\n";
+
+int Tell(const char* text) {
+    return std::cout << text << std::flush ? 0 : 1;
+}
+
+// The exit status of a call that asks for no game. A game is asked for by nothing, or by a path.
+std::optional<int> AnswerArguments(int argc, char* argv[]) {
+    if (argc < 2)
+        return std::nullopt;
+    const std::string_view argument = argc == 2 ? argv[1] : "";
+    if (argument == "--version")
+        return Tell("Quiblink " QUIBLINK_VERSION "\n");
+    if (argument == "--help") {
+        std::cout << Usage;
+        return Tell("Opens the game's window, and in it the saved game if one is named.\n"
+                    "  --help     tells this and ends\n"
+                    "  --version  tells the version and ends\n");
+    }
+    if (!argument.empty() && argument.front() != '-')
+        return std::nullopt;
+    std::cerr << Usage;
+    return 2;
+}
+
 } // namespace
 
 int main(int argc, char* argv[]) {
-    if (argc > 1) {
-        std::cerr << "usage: quiblink\n";
-        return 2;
-    }
+    if (const std::optional<int> status = AnswerArguments(argc, argv))
+        return *status;
     QGuiApplication::setHighDpiScaleFactorRoundingPolicy(
         Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
     RequireLocale();
@@ -70,7 +94,7 @@ int main(int argc, char* argv[]) {
     QApplication::setCursorFlashTime(0); // a blinking text cursor would keep a waiting dialog busy
     MainWindow window;
     EndOnSignals([&window] { window.EndProgram(); });
-    window.Open();
+    window.Open(argc > 1 ? argv[1] : "");
     while (!Game.ProgramEnding)
         YieldToEvents(Forever);
     return 0;

@@ -48,8 +48,8 @@ public:
     }
 
     // The one that was built, or another to be tried, such as the installed one.
-    void StartProgram() {
-        Program.start(qEnvironmentVariable("QUIBLINK_PROGRAM", QUIBLINK_PROGRAM), {});
+    void StartProgram(const QStringList& arguments = {}) {
+        Program.start(qEnvironmentVariable("QUIBLINK_PROGRAM", QUIBLINK_PROGRAM), arguments);
     }
 
     // The exit status, or -1 if the program did not end in time or crashed.

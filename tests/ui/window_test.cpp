@@ -218,10 +218,12 @@ TEST_F(RealWindow, NeedsNoPointerForAWholeGameItsDialogsAndItsFiles) {
     Press("ctrl+x");
     EXPECT_EQ(WaitForExit(), 0);
 
-    StartProgram();
+    StartProgram({"story.qbs"});
     WaitForFocus("Quiblink");
+    Await("the saved game", [&] { return FindField(3, 2) && CountDrawn() == 5; });
     Await("the colour of the first run", [&] { return ShownBackground() == 0x0000AA; });
-    Press("ctrl+x");
+    Open("ctrl+x", "Exit the Game");
+    Press("alt+y");
     EXPECT_EQ(WaitForExit(), 0);
 }
 

@@ -91,7 +91,8 @@ MainWindow::MainWindow()
     connect(&ResizeRest, &QTimer::timeout, this, [] { RunGuarded(ShowResizeWarning); });
 }
 
-void MainWindow::Open() {
+void MainWindow::Open(const std::string& path) {
+    PathToOpen = path;
     RunGuarded(Form_Load);
     ShowControls();
     show();
@@ -125,6 +126,8 @@ bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::Expose) {
         watched->removeEventFilter(this);
         TakeFrame();
+        if (!PathToOpen.empty())
+            Post([this] { OpenGame(PathToOpen); });
     }
     return QMainWindow::eventFilter(watched, event);
 }
@@ -290,8 +293,12 @@ void MainWindow::ShowControls() {
 }
 
 void MainWindow::PostCommand(Command command) {
-    const auto run = [this, command] {
-        RunGuarded([command] { RunCommand(command); });
+    Post([command] { RunCommand(command); });
+}
+
+void MainWindow::Post(const std::function<void()>& handler) {
+    const auto run = [this, handler] {
+        RunGuarded(handler);
         ShowControls();
         if (Game.ProgramEnding)
             EndProgram();

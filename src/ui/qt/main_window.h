@@ -5,6 +5,8 @@
 #include <QMainWindow>
 #include <QTimer>
 #include <array>
+#include <functional>
+#include <string>
 
 #include "platform/controls.h"
 #include "platform/desktop.h"
@@ -25,8 +27,9 @@ class MainWindow : public QMainWindow {
 public:
     MainWindow();
 
-    // Loads the game's settings, places the window on its screen and shows it.
-    void Open();
+    // Loads the game's settings, places the window on its screen and shows it; once it stands,
+    // opens the saved game at `path`, unless that is empty.
+    void Open(const std::string& path);
 
     // Ends the program: the game unwinds and every window closes.
     void EndProgram();
@@ -57,6 +60,7 @@ private:
 
     // Commands run from the event queue, never inside a menu's or button's own handler.
     void PostCommand(Command command);
+    void Post(const std::function<void()>& handler);
     void ShowForm(Form form);
 
     std::array<QAction*, CommandCount> Actions{};
@@ -71,5 +75,6 @@ private:
     PlayersDialog* frmDefinePlayers = nullptr;
     HelpViewer* frmHelp = nullptr;
     MainWindowControls Shown;
-    QTimer ResizeRest; // runs while the field does not fit, until the user is warned
+    std::string PathToOpen; // when the window stands
+    QTimer ResizeRest;      // runs while the field does not fit, until the user is warned
 };
