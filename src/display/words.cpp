@@ -1,8 +1,5 @@
 #include "display/words.h"
 
-#include <algorithm>
-#include <array>
-
 #include "core/state/grid.h"
 
 namespace {
@@ -22,31 +19,6 @@ std::string EffectInWords(int line) {
     return "free";
 }
 
-struct NamedColor {
-    Color Value;
-    const char* Name;
-};
-
-constexpr std::array ClassicColors{
-    NamedColor{0x000000, "black"},        NamedColor{0x800000, "blue"},
-    NamedColor{0x008000, "green"},        NamedColor{0x808000, "cyan"},
-    NamedColor{0x000080, "red"},          NamedColor{0x800080, "magenta"},
-    NamedColor{0x008080, "yellow"},       NamedColor{0xC0C0C0, "white"},
-    NamedColor{0x808080, "gray"},         NamedColor{0xFF0000, "light blue"},
-    NamedColor{0x00FF00, "light green"},  NamedColor{0xFFFF00, "light cyan"},
-    NamedColor{0x0000FF, "light red"},    NamedColor{0xFF00FF, "light magenta"},
-    NamedColor{0x00FFFF, "light yellow"}, NamedColor{0xFFFFFF, "bright white"}};
-
-// Squared, over the three bytes.
-int Distance(Color first, Color second) {
-    int distance = 0;
-    for (const int shift : {0, 8, 16}) {
-        const int difference = ((first >> shift) & 0xFF) - ((second >> shift) & 0xFF);
-        distance += difference * difference;
-    }
-    return distance;
-}
-
 } // namespace
 
 std::string LineInWords(int line) {
@@ -60,12 +32,4 @@ std::string LineInWords(int line) {
 std::string GhostLineInWords() {
     const std::string line = LineInWords(Game.GhostLine);
     return line.empty() ? line : line + ", " + EffectInWords(Game.GhostLine);
-}
-
-std::string ColorInWords(Color color) {
-    return std::min_element(ClassicColors.begin(), ClassicColors.end(),
-                            [color](const NamedColor& first, const NamedColor& second) {
-                                return Distance(first.Value, color) < Distance(second.Value, color);
-                            })
-        ->Name;
 }

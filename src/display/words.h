@@ -3,8 +3,6 @@
 
 #include <string>
 
-#include "platform/color.h"
-
 // "across, row 3, column 4" or "down, ..."; rows and columns count from 1 at the top left. Empty
 // for a line that is not on the field.
 std::string LineInWords(int line);
@@ -12,6 +10,3 @@ std::string LineInWords(int line);
 // The line that is previewed, and what drawing it would do: "across, row 3, column 4, free". Empty
 // when none is.
 std::string GhostLineInWords();
-
-// The nearest of the sixteen classic colours: "light red".
-std::string ColorInWords(Color color);

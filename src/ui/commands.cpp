@@ -285,6 +285,8 @@ void mnuSound_Click() {
     Game.SettingsChanged = true;
     Game.SoundOn = !Game.SoundOn;
     StateOf(Command::Sound).Checked = Game.SoundOn;
+    if (IsListenedTo())
+        Say(Game.SoundOn ? "Sound on" : "Sound off");
 }
 
 void mnuQuibsHelp_Click() {

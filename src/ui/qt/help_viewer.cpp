@@ -8,6 +8,7 @@
 
 #include "base/files.h"
 #include "core/state/game_state.h"
+#include "platform/desktop.h"
 #include "ui/qt/rich_text_view.h"
 
 namespace {
@@ -49,6 +50,10 @@ void HelpViewer::Form_Load() {
     setWindowTitle(Game.ShowHistory ? "Quiblink History" : "Quiblink Help");
     ShowRichText(ReadDocument(Game.ShowHistory ? "qblnkhst.rtf" : "quiblnk.rtf"),
                  *rtfHelp->document());
+    // Who listens reads with a text cursor; who looks turns the page.
+    rtfHelp->setTextInteractionFlags(IsListenedTo()
+                                         ? Qt::TextBrowserInteraction | Qt::TextSelectableByKeyboard
+                                         : Qt::TextBrowserInteraction);
     rtfHelp->moveCursor(QTextCursor::Start);
     rtfHelp->setFocus();
 }

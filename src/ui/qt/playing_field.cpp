@@ -12,7 +12,7 @@
 #include "platform/qt/field_picture.h"
 #include "platform/qt/qt_color.h"
 #include "ui/commands.h"
-#include "ui/qt/accessible_field.h"
+#include "ui/qt/spoken_widgets.h"
 
 namespace {
 
@@ -46,7 +46,7 @@ PointerPlace InTwips(QPointF place) {
 } // namespace
 
 PlayingField::PlayingField(QWidget* parent) : QWidget(parent) {
-    MakeFieldAccessible(); // before a name is set, which a screen reader asks for at once
+    MakeWidgetsSpeak(); // before a name is set, which a screen reader asks for at once
     setObjectName("picPlayingField");
     setAccessibleName("Playing field");
     setAccessibleDescription(
@@ -75,7 +75,7 @@ void PlayingField::Say(const QString& text) {
 
 void PlayingField::SayWhatWaits() {
     if (!Unsaid.isEmpty() && hasFocus() && QApplication::activePopupWidget() == nullptr)
-        SayAtField(this, std::exchange(Unsaid, QString()));
+        SayAt(this, std::exchange(Unsaid, QString()));
 }
 
 void PlayingField::focusInEvent(QFocusEvent* event) {

@@ -4,7 +4,7 @@
 #include <QPainter>
 #include <utility>
 
-#include "display/words.h"
+#include "display/color_words.h"
 #include "platform/qt/qt_color.h"
 
 Swatch::Swatch(const QString& objectName, QString name, QWidget* parent)
