@@ -94,11 +94,6 @@ void LetPointerRest() {
     Game.PointerY = place.Y;
 }
 
-// Places may come rounded to pixels.
-bool IsWithinHalfAPixel(float distance, int pixel) {
-    return 2 * std::abs(distance) <= static_cast<float>(pixel);
-}
-
 template <class Step>
 void StepGhostLine(Step leadFrom) {
     if (!PersonIsAwaited() || Game.HintMode)
@@ -130,8 +125,7 @@ int AskComputerForHint() {
 } // namespace
 
 void MovePointer(float x, float y) {
-    if (IsWithinHalfAPixel(x - Game.PointerX, Game.TwipsPerPixelX) &&
-        IsWithinHalfAPixel(y - Game.PointerY, Game.TwipsPerPixelY))
+    if (x == Game.PointerX && y == Game.PointerY)
         return;
     Game.PointerX = x;
     Game.PointerY = y;

@@ -64,8 +64,17 @@ void PlayingField::ShowControls() {
     update();
 }
 
-PointerPlace PlayingField::PlaceOfPointer() const {
-    return InTwips(mapFromGlobal(QCursor::pos()));
+PointerPlace PlayingField::PlaceOfPointer() {
+    StillPointer = QCursor::pos();
+    return InTwips(mapFromGlobal(*StillPointer));
+}
+
+// Events tell fractions of a pixel on an enlarged screen, the desktop when asked does not.
+PointerPlace PlayingField::PlaceOf(const QMouseEvent& event) {
+    if (event.globalPosition().toPoint() == StillPointer)
+        return InTwips(mapFromGlobal(*StillPointer));
+    StillPointer.reset();
+    return InTwips(event.position());
 }
 
 void PlayingField::Say(const QString& text) {
@@ -133,11 +142,9 @@ void PlayingField::keyPressEvent(QKeyEvent* event) {
 
 void PlayingField::mousePressEvent(QMouseEvent* event) {
     MarkFocus(false);
-    RunGuarded(
-        [place = InTwips(event->position())] { picPlayingField_MouseDown(place.X, place.Y); });
+    RunGuarded([place = PlaceOf(*event)] { picPlayingField_MouseDown(place.X, place.Y); });
 }
 
 void PlayingField::mouseMoveEvent(QMouseEvent* event) {
-    RunGuarded(
-        [place = InTwips(event->position())] { picPlayingField_MouseMove(place.X, place.Y); });
+    RunGuarded([place = PlaceOf(*event)] { picPlayingField_MouseMove(place.X, place.Y); });
 }

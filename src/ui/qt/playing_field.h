@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QWidget>
+#include <optional>
 
 #include "platform/desktop.h"
 
@@ -14,7 +15,7 @@ public:
     // Shows background and pointer as the controls' data have them.
     void ShowControls();
 
-    PointerPlace PlaceOfPointer() const;
+    PointerPlace PlaceOfPointer();
 
     // Says a text to a screen reader as soon as the keyboard is on the field. Only the latest of
     // what waits is said.
@@ -37,5 +38,9 @@ private:
     void MarkFocus(bool isMarked);
 
     QString Unsaid;
-    bool FocusIsMarked = false; // for who uses the keyboard
+    // Of a pointer that lies still, the very place that was told.
+    PointerPlace PlaceOf(const QMouseEvent& event);
+
+    bool FocusIsMarked = false;         // for who uses the keyboard
+    std::optional<QPoint> StillPointer; // on the screen, as long as it lies where it was asked for
 };
