@@ -8,6 +8,8 @@
 #include "platform/wave_player.h"
 #include "support/files.h"
 
+#define SOUND_SERVER QUIBLINK_TESTS "/sound_server"
+
 namespace {
 
 FILE* monitor = nullptr; // what the newest server plays
@@ -27,7 +29,7 @@ void Play(const std::string& tone) {
 const auto Shell = [](const char* command) { EXPECT_EQ(std::system(command), 0) << command; };
 
 void StartServer() {
-    Shell("DBUS_SESSION_BUS_ADDRESS=disabled: pulseaudio -n --daemonize --log-level=error"
+    Shell("DBUS_SESSION_BUS_ADDRESS=disabled: " SOUND_SERVER " -n --daemonize --log-level=error"
           " --exit-idle-time=30 -L 'module-null-sink sink_name=null'"
           " -L 'module-native-protocol-unix auth-anonymous=1 socket='$PWD/server");
     monitor = popen("exec parec -d null.monitor --raw --latency-msec=20 2>/dev/null", "r");
@@ -52,7 +54,12 @@ void PlayAndClose(const std::string& tone) {
 } // namespace
 
 TEST(Sounds, AreHeardUntilClosedWhateverTheirServerDoes) {
+    const char* tools =
+        "(pactl --version && parec --version && " SOUND_SERVER " --version) >/dev/null";
+    if (std::system(tools) != 0)
+        GTEST_SKIP() << "There is no sound server.";
     const TestDirectory directory;
+    PutBytes(".asoundrc", "pcm.!default pulse"); // whatever the desktop has ALSA lead to
     for (const char* name : {"HOME", "XDG_RUNTIME_DIR"})
         setenv(name, directory.Path.c_str(), 1);
     setenv("PULSE_SERVER", ("unix:" + directory.Path + "/server").c_str(), 1);
