@@ -9,9 +9,9 @@
 
 #include <cstdlib>
 #include <functional>
-#include <sstream>
 #include <stdexcept>
 #include <string>
+#include <vector>
 
 #include "support/files.h"
 
@@ -112,9 +112,15 @@ public:
 
     // Presses keys one after another, as in "ctrl+t" or "alt+g a".
     void Press(const std::string& keys) {
-        std::istringstream words(keys);
-        for (std::string key; words >> key;)
-            xdo_send_keysequence_window(Hand, CURRENTWINDOW, key.c_str(), 0);
+        for (const QString& chord : QString::fromStdString(keys).split(' ')) {
+            std::vector<charcodemap_t> held;
+            for (const QString& name : chord.split('+'))
+                held.emplace_back().code = KeyOf(name.toStdString());
+            for (const int isPressed : {1, 0})
+                xdo_send_keysequence_window_list_do(Hand, CURRENTWINDOW, held.data(),
+                                                    static_cast<int>(held.size()), isPressed,
+                                                    nullptr, 0);
+        }
     }
 
     void MoveTo(QPoint point) { xdo_move_mouse(Hand, point.x(), point.y(), 0); }
@@ -165,6 +171,12 @@ public:
     }
 
 private:
+    // The bare key. By its symbol xdo presses Alt with some that have another meaning with it.
+    KeyCode KeyOf(const std::string& name) {
+        const char* symbol = name == "ctrl" ? "Control_L" : name == "alt" ? "Alt_L" : name.c_str();
+        return XKeysymToKeycode(Hand->xdpy, XStringToKeysym(symbol));
+    }
+
     template <class Look>
     void ForEachPixel(QRect area, Look look) {
         XImage* image = XGetImage(Hand->xdpy, DefaultRootWindow(Hand->xdpy), area.x(), area.y(),
