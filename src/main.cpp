@@ -47,9 +47,11 @@ private:
     std::optional<QTemporaryDir> Substitute;
 };
 
-// In a locale that is not there the toolkit misses how letters are composed, and says so.
+// In a locale that is not there the toolkit misses how letters are composed, and in a bare "C" a
+// newer one misses Unicode; both say so.
 void RequireLocale() {
-    if (std::setlocale(LC_ALL, "") == nullptr)
+    const bool isThere = std::setlocale(LC_ALL, "") != nullptr;
+    if (!isThere || std::setlocale(LC_CTYPE, nullptr) == std::string_view("C"))
         qputenv("LC_ALL", "C.UTF-8");
 }
 

@@ -113,7 +113,9 @@ TEST_F(ByEar, APersonPlaysAGameAgainstAComputer) {
     EXPECT_TRUE(news.contains(" The Winner Is: ") || news.endsWith(" It's A Draw."));
     Press("ctrl+x");
     EXPECT_EQ(WaitForExit(), 0);
-    EXPECT_EQ(StandardError(), "");
+    // The toolkit's own, of 6.11, to a question of the bus that it has no answer to.
+    const QRegularExpression notOurs(".* does not implement \"GetApplicationBusAddress\" .*\n");
+    EXPECT_EQ(QString::fromStdString(StandardError()).remove(notOurs), "");
 }
 
 } // namespace
