@@ -4,8 +4,12 @@
 
 #include "ui/qt/window_place.h"
 
+class QDialogButtonBox;
 class QLayout;
 class QPushButton;
+
+// The game's own default button.
+QPushButton* AddOk(QDialogButtonBox& buttons);
 
 class FormDialog : public PlacedDialog {
     Q_OBJECT
@@ -17,7 +21,8 @@ public:
 protected:
     FormDialog(QWidget* parent, const char* objectName, const char* caption);
 
-    // Lays `content` out above the buttons "Ok" and "Cancel".
+    // Lays `content` out above the buttons "Ok" and "Cancel". Where the screen is too small for it,
+    // it is scrolled, and the buttons stay in sight.
     void SetContent(QLayout* content);
 
     // Fills the controls from the game.

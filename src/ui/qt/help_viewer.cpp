@@ -1,6 +1,6 @@
 #include "ui/qt/help_viewer.h"
 
-#include <QHBoxLayout>
+#include <QDialogButtonBox>
 #include <QPushButton>
 #include <QScreen>
 #include <QTextBrowser>
@@ -9,6 +9,7 @@
 #include "base/files.h"
 #include "core/state/game_state.h"
 #include "platform/desktop.h"
+#include "ui/qt/form_dialog.h"
 #include "ui/qt/rich_text_view.h"
 
 namespace {
@@ -27,17 +28,11 @@ HelpViewer::HelpViewer(QWidget* parent) : PlacedDialog(parent), rtfHelp(new QTex
     setWindowTitle("Quiblink Help");
     rtfHelp->setObjectName("rtfHelp");
     rtfHelp->setAccessibleName("Document");
-    auto* cmdOk = new QPushButton("Ok", this);
-    cmdOk->setObjectName("cmdOk");
-    cmdOk->setDefault(true);
-    connect(cmdOk, &QPushButton::clicked, this, &HelpViewer::cmdOk_Click);
-
-    auto* buttons = new QHBoxLayout;
-    buttons->addStretch();
-    buttons->addWidget(cmdOk);
+    auto* buttons = new QDialogButtonBox(this);
+    connect(AddOk(*buttons), &QPushButton::clicked, this, &HelpViewer::cmdOk_Click);
     auto* all = new QVBoxLayout(this);
     all->addWidget(rtfHelp);
-    all->addLayout(buttons);
+    all->addWidget(buttons);
     resize((InitialSize * Enlargement()).boundedTo(screen()->availableSize() - RoomForFrame));
 }
 

@@ -31,7 +31,7 @@ void CheckKind(const QButtonGroup* kinds, int kind) {
 PlayersDialog::PlayersDialog(QWidget* parent)
     : FormDialog(parent, "frmDefinePlayers", "Define Players") {
     auto* grid = new QGridLayout;
-    grid->setHorizontalSpacing(24);
+    grid->setHorizontalSpacing(16);
     Players.at(1) = AddPlayer(grid, 1);
     Players.at(2) = AddPlayer(grid, 2);
     SetContent(grid);
