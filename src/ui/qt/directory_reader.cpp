@@ -67,10 +67,32 @@ std::optional<QString> Unescape(const QByteArray& text) {
     return AsText(plain.constData());
 }
 
-// Mounts of the system's own, like /proc, have no device behind them.
-bool IsDrive(const QByteArray& device, const QByteArray& type) {
-    return device.startsWith('/') || type.startsWith("nfs") || type == "cifs" ||
-           type.startsWith("fuse.ssh");
+// A line of the system's table of mounts.
+struct Mount {
+    QByteArray Part; // of the device, that is mounted
+    QByteArray Place, Type, Device, Options;
+};
+
+std::optional<Mount> ReadMount(const QByteArray& line) {
+    const qsizetype middle = line.indexOf(" - "); // before it stand columns that may be absent
+    const QList<QByteArray> first = line.left(middle).split(' ');
+    const QList<QByteArray> last = line.mid(middle + 3).split(' ');
+    if (middle < 0 || first.size() < 5 || last.size() < 3)
+        return std::nullopt;
+    return Mount{first.at(3), first.at(4), last.at(0), last.at(1), last.at(2)};
+}
+
+bool IsDrive(const Mount& mount) {
+    const QByteArray& type = mount.Type;
+    // Mounts of the system's own, like /proc, have no device behind them.
+    const bool isStorage = mount.Device.startsWith('/') || type.startsWith("nfs") ||
+                           type == "cifs" || type.startsWith("fuse.ssh");
+    const bool isProgram = type == "squashfs" || type == "erofs";
+    const bool startsTheMachine = (mount.Place + '/').startsWith("/boot/");
+    // A file or directory that shows a second time; but a volume of its own has a name, too.
+    const bool isWhole =
+        mount.Part == "/" || (mount.Options + ',').contains("subvol=" + mount.Part + ',');
+    return isStorage && isWhole && !isProgram && !startsTheMachine;
 }
 
 } // namespace
@@ -95,14 +117,14 @@ QString CurrentDirectory() {
 
 QStringList MountedDrives() {
     QStringList drives{"/"};
-    QFile table("/proc/self/mounts");
+    QFile table("/proc/self/mountinfo");
     if (!table.open(QIODevice::ReadOnly))
         return drives;
     for (const QByteArray& line : table.readAll().split('\n')) {
-        const QList<QByteArray> columns = line.split(' ');
-        if (columns.size() < 3 || !IsDrive(columns.at(0), columns.at(2)))
+        const std::optional<Mount> mount = ReadMount(line);
+        if (!mount || !IsDrive(*mount))
             continue;
-        const std::optional<QString> drive = Unescape(columns.at(1));
+        const std::optional<QString> drive = Unescape(mount->Place);
         if (drive && !drives.contains(*drive))
             drives.append(*drive);
     }

@@ -32,5 +32,6 @@ private:
 // Where the program runs. When that directory is gone, or its name is no text: the user's home.
 QString CurrentDirectory();
 
-// Where drives are mounted, "/" first. Asks none of them, so that a dead one does no harm.
+// Where what a user calls a drive is mounted, "/" first: no part of another drive, no image of a
+// program, nothing of the system's own. Asks none of them, so that a dead one does no harm.
 QStringList MountedDrives();

@@ -1,5 +1,6 @@
 #include "ui/qt/file_lists.h"
 
+#include <QAbstractItemView>
 #include <QComboBox>
 #include <QGridLayout>
 #include <QKeyEvent>
@@ -7,13 +8,16 @@
 #include <QPainter>
 #include <QStyle>
 #include <QTimer>
+#include <algorithm>
 #include <utility>
 
 namespace {
 
 constexpr int PathRole = Qt::UserRole;
-constexpr QSize SmallestList(220, 190); // pixels
-constexpr int SlowReading = 200;        // milliseconds
+// Of a list, in letters and lines of the desktop's font.
+constexpr QSize UsualList(32, 11);
+constexpr QSize SmallestList(20, 4);
+constexpr int SlowReading = 200; // milliseconds
 
 template <class List>
 List* Named(List* list, const char* objectName, const char* accessibleName) {
@@ -22,10 +26,14 @@ List* Named(List* list, const char* objectName, const char* accessibleName) {
     return list;
 }
 
-// Framed like a line edit when it has the focus: an empty list would not show it at all.
+// As large as its letters ask for. Framed like a line edit when it has the focus: an empty list
+// would not show it at all.
 class FramedList : public QListWidget {
 public:
     using QListWidget::QListWidget;
+
+    QSize sizeHint() const override { return InPixels(UsualList); }
+    QSize minimumSizeHint() const override { return InPixels(SmallestList); }
 
 protected:
     bool event(QEvent* event) override {
@@ -39,11 +47,16 @@ protected:
         }
         return isHandled;
     }
+
+private:
+    QSize InPixels(QSize letters) const {
+        return {letters.width() * fontMetrics().averageCharWidth(),
+                letters.height() * fontMetrics().height()};
+    }
 };
 
 QListWidget* MakeList(QWidget* parent, const char* objectName, const char* accessibleName) {
     auto* list = Named<QListWidget>(new FramedList(parent), objectName, accessibleName);
-    list->setMinimumSize(SmallestList);
     list->setUniformItemSizes(true);
     return list;
 }
@@ -77,10 +90,16 @@ FileLists::FileLists(QWidget* parent)
     grid->addWidget(drvDriveList, 0, 0);
     grid->addWidget(dirDirectoryList, 1, 0);
     grid->addWidget(filFileList, 0, 1, 2, 1);
+    grid->setColumnStretch(0, 1);
+    grid->setColumnStretch(1, 1);
+    // However long the name of a drive is; opened, the list shows it whole.
+    drvDriveList->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    drvDriveList->view()->setTextElideMode(Qt::ElideMiddle);
     dirDirectoryList->installEventFilter(this);
     filFileList->installEventFilter(this);
     filFileList->viewport()->installEventFilter(this);
-    const int iconSize = style()->pixelMetric(QStyle::PM_SmallIconSize);
+    const int iconSize =
+        std::max(style()->pixelMetric(QStyle::PM_SmallIconSize), fontMetrics().height());
     dirDirectoryList->setIconSize(QSize(iconSize, iconSize));
 
     connect(&Reader, &DirectoryReader::Done, this, &FileLists::ShowContents);
@@ -100,6 +119,7 @@ void FileLists::Load() {
     IsDoubleClicked = false;
     drvDriveList->clear();
     drvDriveList->addItems(MountedDrives());
+    drvDriveList->view()->setMinimumWidth(drvDriveList->view()->sizeHintForColumn(0));
     const QString current = CurrentDirectory();
     drvDriveList->setCurrentText(DriveOf(current, drvDriveList));
     ShowDirectory(current);
