@@ -1,6 +1,8 @@
 // The waits of a game and all that may arrive in the middle of them, and the end of a game.
 #include "core/play/turn_loop.h"
 
+#include <system_error>
+
 #include "display/command_states.h"
 #include "support/game_test.h"
 #include "ui/commands.h"
@@ -119,6 +121,10 @@ void Fail() {
     Increase(full, 1);
 }
 
+void FailElsewhere() {
+    throw std::system_error(std::make_error_code(std::errc::resource_unavailable_try_again));
+}
+
 // In the wait for a person this line would be refused if the game went on.
 void PointAtFirstLine() {
     PointAt(UndrawnLines().front());
@@ -147,6 +153,7 @@ const Event Events[] = {
      {PointAtFirstLine, PressHere, mnuPause_Click}},
     {"Quit", ExpectGivenUp, {Yes}, {mnuQuit_Click}},
     {"Quit after a pause", ExpectGivenUp, {Yes}, {mnuPause_Click, mnuQuit_Click}},
+    {"an unrelated failure", ExpectPlayedToTheEnd, {Ok}, {[] { RunGuarded(FailElsewhere); }}},
     {"a failure", ExpectGivenUp, {Ok}, {Fail}},
     {"a failing command", ExpectGivenUp, {Ok}, {[] { RunGuarded(Fail); }}},
     {"Exit", ExpectClosed, {Yes}, {mnuExit_Click}},
@@ -235,6 +242,31 @@ TEST_F(TurnLoop, LooksAgainForTheGameThatAQuestionWasAbout) {
         ExpectGivenUp();
         EXPECT_EQ(BytesOf("saved.qbs"), "mine");
     }
+}
+
+TEST_F(TurnLoop, EndsForWhatBreaksTheGameAndForNothingElse) {
+    TheNullDesktop.Answers = {Ok, Ok, Ok, Ok};
+    Prepare(3, ComputerAverage, ComputerCheat, {1});
+    const GameState prepared = Game;
+    RunGuarded(FailElsewhere);
+    EXPECT_TRUE(Game == prepared);
+    RunGuarded(Fail);
+    ExpectGivenUp();
+    const GameState idle = Game;
+    RunGuarded(Fail);
+    EXPECT_TRUE(Game == idle);
+    TheNullDesktop.PictureWidth = 1'000'000; // the field is too large for its numbers
+    Game.GridColumns = 2000;
+    RunCommand(Command::Draw);
+    ExpectNoGameIsRunning();
+    const char* const texts[] = {
+        "That could not be done, because something unforeseen happened.",
+        "The game had to be ended, because its board is damaged.",
+        "That could not be done, because something unforeseen happened.",
+        "The game had to be ended, because its board is damaged.",
+    };
+    for (std::size_t box = 0; box < 4; ++box)
+        EXPECT_EQ(TheNullDesktop.Boxes.at(box).Text, texts[box]);
 }
 
 TEST_F(TurnLoop, EndsAFullBoardInsteadOfPausingIt) {

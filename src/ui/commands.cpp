@@ -25,7 +25,6 @@
 namespace {
 
 constexpr double NarrowestCentredScreen = 1024; // pixels
-constexpr const char* DamagedBoard = "its board is damaged";
 
 bool Confirms(const char* question, const char* title) {
     return ShowMessageBox(question, title, MessageIcon::Question, MessageButtons::YesNo) ==
@@ -67,6 +66,35 @@ void SetUpAndPlay(Command command) {
     PlayGame();
 }
 
+// Tells what fails. It ends the game if it is the game itself, or if it finds the board damaged.
+void RunOrTell(const std::function<void()>& action, bool isTheGame) {
+    const char* reason = "something unforeseen happened";
+    bool endsGame = isTheGame;
+    const auto blameBoard = [&] {
+        endsGame = endsGame || IsGameUnderWay();
+        if (endsGame)
+            reason = "its board is damaged";
+    };
+    try {
+        return action();
+    } catch (const std::bad_alloc&) {
+        reason = "there is not enough memory";
+    } catch (const std::logic_error&) { // as by a line that is none
+        blameBoard();
+    } catch (const std::overflow_error&) { // by a number that no game holds
+        blameBoard();
+    } catch (...) { // nothing more is known
+    }
+    // A turn loop that is running below a handler must unwind by itself.
+    if (endsGame && Game.GameInPlay && !isTheGame)
+        Game.QuitRequested = true;
+    else if (endsGame)
+        AbandonGame();
+    const std::string what = endsGame ? "The game had to be ended" : "That could not be done";
+    ShowMessageBox(what + ", because " + reason + ".", "Quiblink", MessageIcon::Exclamation,
+                   MessageButtons::Ok);
+}
+
 // Runs a command that needs the board or the turn loop to itself. While the end of a game is being
 // shown the command is kept, the showing stops, and the call that shows it carries the command out
 // when its loop has unwound; so the stack stays as deep as one.
@@ -77,7 +105,7 @@ void RunGameCommand(Command command) {
     }
     std::optional<Command> next = command;
     while (next && !Game.ProgramEnding) {
-        SetUpAndPlay(*next);
+        RunOrTell([next] { SetUpAndPlay(*next); }, true);
         next = std::exchange(Game.CommandAfterGameOver, std::nullopt);
     }
 }
@@ -148,25 +176,7 @@ std::string CentredLine(const std::string& line) {
 } // namespace
 
 void RunGuarded(const std::function<void()>& handler) {
-    const char* reason = "something unforeseen happened";
-    try {
-        handler();
-        return;
-    } catch (const std::bad_alloc&) {
-        reason = "there is not enough memory";
-    } catch (const std::logic_error&) { // as by a line that is none
-        reason = DamagedBoard;
-    } catch (const std::overflow_error&) { // by a number that no game holds
-        reason = DamagedBoard;
-    } catch (...) { // nothing more is known
-    }
-    // A turn loop that is running below this handler must unwind by itself.
-    if (Game.GameInPlay)
-        Game.QuitRequested = true;
-    else if (!Game.GameOverShown)
-        AbandonGame();
-    ShowMessageBox(std::string("The game had to be ended, because ") + reason + ".", "Quiblink",
-                   MessageIcon::Exclamation, MessageButtons::Ok);
+    RunOrTell(handler, false);
 }
 
 void RunCommand(Command command) {

@@ -8,8 +8,8 @@
 #include "core/state/game_state.h"
 #include "platform/controls.h"
 
-// Runs an event handler. An unforeseen failure in it is told in a message box and ends the game,
-// not the program.
+// Runs an event handler. An unforeseen failure in it is told in a message box. It ends the game if
+// the board or the turn loop is broken; else all stays as it was.
 void RunGuarded(const std::function<void()>& handler);
 
 // Carries out a command if it is enabled and no question is open. Commands are queued, so that two

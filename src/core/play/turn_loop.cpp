@@ -153,17 +153,12 @@ void PlayGame() {
     Game.GameInPlay = true;
     Game.MouseDownSeen = true;
     EnterPhase(Phase::ComputerToMove);
-    try {
-        RequireWholeBoard();
-        if (Game.GamePaused)
-            ResumeTurn();
-        else
-            BeginFirstTurn();
-        EndLoop(PlayTurns());
-    } catch (...) {
-        AbandonGame();
-        throw;
-    }
+    RequireWholeBoard();
+    if (Game.GamePaused)
+        ResumeTurn();
+    else
+        BeginFirstTurn();
+    EndLoop(PlayTurns());
 }
 
 void AbandonGame() {
