@@ -208,7 +208,7 @@ TEST_F(RealWindow, NeedsNoPointerForAWholeGameItsDialogsAndItsFiles) {
     PlayOnByKeys(17);
 
     Open("ctrl+r", "Define Playing Grid");
-    Press("Tab Tab space"); // the colour of the background
+    Press("Tab Tab Return"); // the colour of the background
     WaitForFocus("Select Color");
     Press("alt+h End BackSpace BackSpace a a Return");
     WaitForFocus("Define Playing Grid");

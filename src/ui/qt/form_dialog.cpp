@@ -79,7 +79,6 @@ void FormDialog::SetContent(QLayout* content) {
     auto* cmdCancel = buttons->addButton(QDialogButtonBox::Cancel);
     cmdCancel->setText("Cancel");
     cmdCancel->setObjectName("cmdCancel");
-    cmdCancel->setAutoDefault(false);
     connect(cmdOk, &QPushButton::clicked, this, [this] { RunGuarded([this] { cmdOk_Click(); }); });
     connect(cmdCancel, &QPushButton::clicked, this, &FormDialog::cmdCancel_Click);
 

@@ -74,7 +74,6 @@ Swatch* GridDialog::AddColor(QGridLayout* grid, int row, const char* name, const
     auto* button = new QPushButton("Color", this);
     button->setObjectName(QString("cmd") + name);
     button->setAccessibleName(QString("Choose the ") + caption);
-    button->setAutoDefault(false);
     connect(button, &QPushButton::clicked, this, cmd_Click);
     grid->addWidget(label, row, 0);
     grid->addWidget(swatch, row, 1);

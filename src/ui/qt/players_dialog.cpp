@@ -52,7 +52,6 @@ PlayersDialog::PlayerControls PlayersDialog::AddPlayer(QGridLayout* grid, int pl
     auto* button = new QPushButton("Color...", this);
     button->setObjectName(QString("cmdPlayer%1Color").arg(number));
     button->setAccessibleName(QString("Choose the color of player %1").arg(number));
-    button->setAutoDefault(false);
     connect(button, &QPushButton::clicked, this,
             player == 1 ? &PlayersDialog::cmdPlayer1Color_Click
                         : &PlayersDialog::cmdPlayer2Color_Click);
