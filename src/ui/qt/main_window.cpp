@@ -113,15 +113,18 @@ void MainWindow::closeEvent(QCloseEvent* event) {
 void MainWindow::changeEvent(QEvent* event) {
     QMainWindow::changeEvent(event);
     if (event->type() == QEvent::WindowStateChange)
-        KeepOnScreenSoon(); // the screen may have shrunk while the window was maximised
+        KeepOnScreenSoon();
 }
 
 bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::Resize) {
-        setMinimumSize(SizeAround(SmallestPicture)); // the frame follows the desktop's font
+        const QSize smallest = SizeAround(SmallestPicture); // the frame follows the desktop's font
+        if (watched == fraStatistics && smallest.boundedTo(size()) != smallest) {
+            IsToBeKept = true;
+            KeepOnScreenSoon();
+        }
+        setMinimumSize(smallest);
         LayOut();
-        if (watched == fraStatistics)
-            KeepOnScreenSoon(); // it may have grown wider
     }
     if (event->type() == QEvent::Expose) {
         watched->removeEventFilter(this);
@@ -230,14 +233,19 @@ void MainWindow::TakeFrame() {
     KeepOnScreen(*this);
 }
 
+void MainWindow::KeepIfChanged() {
+    IsToBeKept = IsToBeKept && !KeepOnScreen(*this);
+}
+
 void MainWindow::KeepOnScreenSoon() {
-    QTimer::singleShot(RestMilliseconds, this, [this] { KeepOnScreen(*this); });
+    QTimer::singleShot(RestMilliseconds, this, &MainWindow::KeepIfChanged);
 }
 
 void MainWindow::FollowScreens() {
     const auto keep = [this] {
         fraStatistics->TakeSize();
-        KeepOnScreen(*this);
+        IsToBeKept = true;
+        KeepIfChanged();
     };
     const auto follow = [this, keep](QScreen* screen) {
         connect(screen, &QScreen::availableGeometryChanged, this, keep);

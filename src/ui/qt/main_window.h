@@ -50,6 +50,8 @@ private:
     // Now that the desktop has put a title bar and borders around the window.
     void TakeFrame();
     void FollowScreens();
+    // Where the user put it, a window stays, unless the screens changed or it had to grow.
+    void KeepIfChanged();
     // When the desktop has done with a change of the window's size.
     void KeepOnScreenSoon();
     // Of a window as wide as the status frame asks for, around a picture of so many spacings'
@@ -75,6 +77,7 @@ private:
     PlayersDialog* frmDefinePlayers = nullptr;
     HelpViewer* frmHelp = nullptr;
     MainWindowControls Shown;
-    std::string PathToOpen; // when the window stands
-    QTimer ResizeRest;      // runs while the field does not fit, until the user is warned
+    std::string PathToOpen;  // when the window stands
+    bool IsToBeKept = false; // on its screen, as soon as it is neither maximised nor minimised
+    QTimer ResizeRest;       // runs while the field does not fit, until the user is warned
 };

@@ -10,23 +10,23 @@ void CentreOnScreen(QWidget& window) {
     window.move(frame.topLeft());
 }
 
-void KeepOnScreen(QWidget& window) {
-    if (window.isMaximized() || window.isFullScreen())
-        return; // the desktop keeps such a window on the screen, and moving it would end that state
+bool KeepOnScreen(QWidget& window) {
     const QRect area = window.screen()->availableGeometry();
-    if (area.isEmpty())
-        return; // the screen is being changed
+    // To move a maximised window would end that state.
+    if (window.isMaximized() || window.isFullScreen() || window.isMinimized() || area.isEmpty())
+        return false;
     const QRect frame = window.frameGeometry();
     const QSize size = frame.size().boundedTo(area.size());
     const QRect kept(std::clamp(frame.left(), area.left(), area.right() + 1 - size.width()),
                      std::clamp(frame.top(), area.top(), area.bottom() + 1 - size.height()),
                      size.width(), size.height());
     if (kept == frame)
-        return;
+        return true;
     const QRect inside = window.geometry();
     window.setGeometry(kept.adjusted(inside.left() - frame.left(), inside.top() - frame.top(),
                                      inside.right() - frame.right(),
                                      inside.bottom() - frame.bottom()));
+    return true;
 }
 
 void PlacedDialog::ShowAndRaise() {

@@ -9,8 +9,8 @@
 void CentreOnScreen(QWidget& window);
 
 // Wholly on the usable part of the screen it is on: moved there, and made smaller where it is
-// larger.
-void KeepOnScreen(QWidget& window);
+// larger. False while the desktop keeps it in another way, or the screen is being changed.
+bool KeepOnScreen(QWidget& window);
 
 // Comes up where it was closed.
 class PlacedDialog : public QDialog {
