@@ -55,6 +55,22 @@ TEST_F(Files, AreWrittenOverWhereTheDirectoryTakesNoNewOnes) {
     EXPECT_THROW(FileReplacement("other.qbs"), std::runtime_error);
 }
 
+TEST_F(Files, AreNotWrittenThroughTheLinksOfOthersInADirectoryForAll) {
+    constexpr uid_t nobody = 65534;
+    PutBytes("mine.qbs", "mine");
+    std::filesystem::create_directory("all");
+    std::filesystem::create_symlink("../mine.qbs", "all/game.qbs");
+    EXPECT_EQ(chmod("all", 01777), 0);
+    (void)!lchown("all/game.qbs", nobody, nobody); // which only root may do
+    // Not every system protects from them. What can be asked for is asked about.
+    if (FileExists("all/game.qbs"))
+        EXPECT_TRUE(FileReplacement("all/game.qbs").Write("mine"));
+    else
+        EXPECT_THROW(FileReplacement("all/game.qbs"), std::runtime_error);
+    EXPECT_EQ(BytesOf("mine.qbs"), "mine");
+    EXPECT_EQ(CountFiles(), 2);
+}
+
 TEST_F(Files, AreWholeWhileCopiesOfTheProgramWriteThemAndAreKilled) {
     const auto whole = [](char letter) { return std::string(1 << 17, letter); };
     ReplaceBy(whole('a'));

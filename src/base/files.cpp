@@ -40,6 +40,15 @@ std::string FollowLinks(std::filesystem::path name) {
     return name.string();
 }
 
+// The system does not follow the links that others leave in a directory for all: who follows them
+// by hand writes where they want.
+bool IsForbiddenLink(const std::string& name) {
+    struct stat status {};
+    std::error_code unreachable;
+    return stat(name.c_str(), &status) != 0 && errno != ENOENT &&
+           std::filesystem::is_symlink(name, unreachable);
+}
+
 bool IsThere(const std::string& name) {
     struct stat status = {};
     return lstat(name.c_str(), &status) == 0 || errno != ENOENT;
@@ -151,7 +160,7 @@ std::optional<std::string> ReadRegularFile(const std::string& name, std::size_t 
 
 FileReplacement::FileReplacement(const std::string& name)
     : Name(FollowLinks(name)), Old(OpenRegular(Name, O_WRONLY)) {
-    if (!Old.IsOpen() && IsThere(Name))
+    if (IsForbiddenLink(name) || (!Old.IsOpen() && IsThere(Name)))
         throw std::runtime_error("a file may not be written");
     CreateNew();
     if (!Old.IsOpen() && !New.IsOpen())

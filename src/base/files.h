@@ -30,8 +30,9 @@ public:
 
 // Puts a new text in the place of a file, or makes the file. The text goes into a file beside the
 // old one and takes its place when all of it is on the disk, so that at every moment one of the two
-// is whole. Links are followed; the new file takes over the mode and, where it may, the owner.
-// Where the directory lets nothing take that place the old file is written over.
+// is whole. Links are followed where the system follows them; the new file takes over the mode and,
+// where it may, the owner. Where the directory lets nothing take that place the old file is written
+// over.
 class FileReplacement {
 public:
     // Throws std::runtime_error, with nothing changed, when `name` cannot be written.
