@@ -55,6 +55,14 @@ void RequireLocale() {
         qputenv("LC_ALL", "C.UTF-8");
 }
 
+// No screen asks for more, and no memory holds the windows that would come of much more.
+void BoundScale() {
+    constexpr const char* variable = "QT_SCALE_FACTOR";
+    constexpr int largest = 8;
+    if (qEnvironmentVariable(variable).toDouble() > largest)
+        qputenv(variable, QByteArray::number(largest));
+}
+
 constexpr const char* Usage = "usage: quiblink [SAVED-GAME]\n";
 
 int Tell(const char* text) {
@@ -88,6 +96,7 @@ int main(int argc, char* argv[]) {
     QGuiApplication::setHighDpiScaleFactorRoundingPolicy(
         Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
     RequireLocale();
+    BoundScale();
     std::optional<SessionDirectory> directory(std::in_place);
     GuardedApplication application(argc, argv);
     directory.reset();

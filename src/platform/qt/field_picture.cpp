@@ -11,6 +11,9 @@ FieldPicture TheFieldPicture;
 namespace {
 
 constexpr int DotSize = 3; // logical pixels
+// Screen pixels of a layer, across or down: more than screens have. A scale that asks for more is
+// drawn in fewer.
+constexpr int LargestLayer = 8192;
 
 QRgb Opaque(Color color) {
     return ToQColor(color).rgb();
@@ -30,16 +33,21 @@ QSize ImageSize(QSize logicalSize, qreal pixelRatio) {
             static_cast<int>(std::ceil(logicalSize.height() * pixelRatio))};
 }
 
+qreal LargestRatio(QSize logicalSize) {
+    const int longerSide = std::max({1, logicalSize.width(), logicalSize.height()});
+    return static_cast<qreal>(LargestLayer) / longerSide;
+}
+
 } // namespace
 
 void FieldPicture::Resize(QSize logicalSize, qreal screenPixelRatio) {
     Size = logicalSize;
     ScreenRatio = screenPixelRatio;
-    Pixels = ImageSize(Size, Ratio).expandedTo(Pixels);
+    Pixels = ImageSize(Size, Ratio).expandedTo(Pixels).boundedTo({LargestLayer, LargestLayer});
 }
 
 void FieldPicture::Clear() {
-    Ratio = ScreenRatio;
+    Ratio = std::min(ScreenRatio, LargestRatio(Size));
     Pixels = ImageSize(Size, Ratio);
     Lines = Points = QImage();
     WhenChanged(QRect(QPoint(), Size));
