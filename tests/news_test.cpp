@@ -2,6 +2,7 @@
 #include "display/news.h"
 
 #include "core/play/game_over.h"
+#include "core/state/work_lists.h"
 #include "support/game_test.h"
 #include "ui/commands.h"
 
@@ -26,7 +27,9 @@ TEST_F(News, TellATurnInOneText) {
     RunCommand(Command::Start);
     RunCommand(Command::Start);
     EXPECT_EQ(TheNullDesktop.Sayings,
-              (Sayings{"Colossus's Turn. 2 by 1 boxes, 3 of 7 lines drawn.",
+              (Sayings{"Colossus's Turn. 2 by 1 boxes, 3 of 7 lines drawn. The arrow keys move "
+                       "the ghost line, Space turns it, Return draws it. Home tells its place, End "
+                       "how the game stands, Shift with an arrow the next box.",
                        "down, row 1, column 1, gives a box away",
                        "Colossus's Turn. Guardian drew across, row 2, column 2, and took a box. "
                        "Colossus 0, Guardian 1.",
@@ -41,6 +44,32 @@ TEST_F(News, EndWithTheScoreEvenIfItWasToldBefore) {
     TellNews();
     ShowGameOver();
     EXPECT_EQ(TheNullDesktop.Sayings.back(), "Colossus 2, Guardian 0. The Winner Is: Colossus.");
+}
+
+TEST_F(News, TellWhatEachLineDoesAndWhatIsAskedFor) {
+    SetUpGame(4, 2, Humanoid, ComputerAverage);
+    Game.MouseDownSeen = false;
+    Work.ChainBoxes.Append(7); // of a computer that is choosing
+    DrawForNobody({1, 2, 3, 4, 5, 6, 7, 8});
+    PointAt(17);
+    DrawForNobody({9, 13});
+    for (const int line : {15, 10, 14})
+        PointAt(line);
+    Game.Boxes.at(1).Owner = 2;
+    for (const FieldKey key : {FieldKey::TellPlace, FieldKey::TellStanding, FieldKey::TellBoxRight,
+                               FieldKey::TellBoxLeft, FieldKey::TellBoxAbove, FieldKey::Left})
+        picPlayingField_KeyDown(key);
+    const std::string last = "down, row 2, column 1, gives a box away, and 4 more lie open";
+    EXPECT_EQ(TheNullDesktop.Sayings,
+              (Sayings{"down, row 1, column 3, gives 4 boxes away",
+                       "down, row 1, column 2, closes a box, and 3 more lie open",
+                       "across, row 3, column 2, free, but 4 boxes lie open", last,
+                       last + ". Right: 2 sides: top, bottom.",
+                       "Colossus's Turn. Colossus 0, Guardian 0. 4 boxes lie open, the first at "
+                       "row 1, column 1.",
+                       "row 2, column 1, 2 sides: top, bottom", "No box that way",
+                       "row 1, column 1, Guardian's", "No line that way"}));
+    EXPECT_EQ(Work.ChainBoxes.Count(), 1);
 }
 
 TEST_F(News, OfAGameBetweenComputersAreTheScoreNowAndThen) {

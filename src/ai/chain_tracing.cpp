@@ -3,7 +3,6 @@
 #include <vector>
 
 #include "core/state/grid.h"
-#include "core/state/work_lists.h"
 
 namespace {
 
@@ -50,36 +49,36 @@ int FirstSideLeft(int box) {
     return FirstSide(box, [](int side) { return !playOut.IsDrawn(side); });
 }
 
-void CompleteBoxesBeside(int line) {
+void CompleteBoxesBeside(int line, CountedList<Integer>& boxes) {
     for (const Integer box : BoxesBeside(line)) {
         if (box == 0)
             continue;
         playOut.AddSide(box);
         if (playOut.SidesDrawn(box) == 4)
-            Work.ChainBoxes.Append(box);
+            boxes.Append(box);
     }
 }
 
 // Takes box after box, each of which has three sides when it is reached. A first box that `line`
 // itself completes has no side left to draw, and is taken by counting `line`.
-void Walk(int box, int line, CountedList<Integer>& lines) {
+void Walk(int box, int line, CountedList<Integer>& lines, CountedList<Integer>& boxes) {
     do {
         if (const int side = FirstSideLeft(box); side != 0) {
             line = side;
             lines.Append(ToInteger(line));
         }
         playOut.Mark(line);
-        CompleteBoxesBeside(line);
+        CompleteBoxesBeside(line, boxes);
         box = BoxAcross(line, box);
     } while (box != 0 && playOut.SidesDrawn(box) == 3);
 }
 
 } // namespace
 
-void TraceChain(int line) {
-    Work.ChainBoxes.Clear();
-    Work.ChainLines.Clear();
-    Work.ChainTailLines.Clear();
+void TraceChain(int line, ChainLists& found) {
+    found.ChainBoxes.Clear();
+    found.ChainLines.Clear();
+    found.ChainTailLines.Clear();
     playOut.Restart();
     playOut.Mark(line);
 
@@ -89,13 +88,28 @@ void TraceChain(int line) {
         playOut.AddSide(second);
     }
     if (playOut.SidesDrawn(first) == 3)
-        Walk(first, line, Work.ChainLines);
+        Walk(first, line, found.ChainLines, found.ChainBoxes);
     const int secondSides = playOut.SidesDrawn(second);
     if (secondSides == 3)
-        Walk(second, line, Work.ChainTailLines);
-    else if (secondSides == 4 && Work.ChainLines.Count() > 0 &&
-             HasSide(second, Work.ChainLines.Last()))
-        Work.ChainTailLines.MarkClosedLoop();
+        Walk(second, line, found.ChainTailLines, found.ChainBoxes);
+    else if (secondSides == 4 && found.ChainLines.Count() > 0 &&
+             HasSide(second, found.ChainLines.Last()))
+        found.ChainTailLines.MarkClosedLoop();
+}
+
+Prospect ProspectOf(int line) {
+    Prospect prospect;
+    for (const Integer box : BoxesBeside(line))
+        prospect.Closed += Game.Boxes.at(box).SidesDrawn == 3 ? 1 : 0;
+    ChainLists found = Work; // for the lengths
+    TraceChain(line, found);
+    if (prospect.Closed == 0)
+        prospect.Given = found.ChainBoxes.Count();
+    for (int box = 1; box <= Game.BoxCount; ++box)
+        if (playOut.SidesDrawn(box) == 3)
+            Walk(box, 0, found.ChainLines, found.ChainBoxes);
+    prospect.Open = found.ChainBoxes.Count() - prospect.Closed - prospect.Given;
+    return prospect;
 }
 
 bool EveryLineTakesABox(const CountedList<Integer>& lines) {

@@ -1,5 +1,7 @@
 #include "display/news.h"
 
+#include <utility>
+
 #include "core/state/grid.h"
 #include "display/status_panel.h"
 #include "display/words.h"
@@ -37,8 +39,7 @@ std::string DeedsOf(int player) {
     const int boxes = Game.PlayerScore.at(player) - Game.Told.Score.at(player);
     std::string deeds = line.empty() ? "" : " drew " + line;
     if (boxes > 0)
-        deeds += std::string(line.empty() ? "" : ", and") + " took " +
-                 (boxes == 1 ? "a box" : std::to_string(boxes) + " boxes");
+        deeds += std::string(line.empty() ? "" : ", and") + " took " + BoxesInWords(boxes);
     return deeds.empty() ? "" : Game.PlayerName.at(player) + deeds;
 }
 
@@ -50,9 +51,25 @@ void Append(std::string& news, const std::string& sentence) {
         news += '.';
 }
 
+bool PersonIsToMove() {
+    return Game.GameInPlay && !Game.GamePaused && IsPlayer(Game.CurrentPlayer) &&
+           !IsComputer(Game.CurrentPlayer);
+}
+
+std::string NoGameInWords() {
+    return std::string("No game. Ctrl+T starts one") +
+           (ComputersPlayEachOther() ? ", Ctrl+P makes you a player." : ".");
+}
+
+std::string StateInWords() {
+    if (Game.GameOverShown)
+        return OutcomeText();
+    return Game.GamePaused ? "GAME PAUSED" : "";
+}
+
 std::string News() {
     if (Game.BoxCount == 0)
-        return "No game.";
+        return NoGameInWords();
     std::string news;
     if (!Game.GameOverShown)
         Append(news, TurnText(Game.CurrentPlayer));
@@ -63,10 +80,10 @@ std::string News() {
             Append(news, DeedsOf(player));
     if (Game.PlayerScore != Game.Told.Score || Game.GameOverShown)
         Append(news, ScoreInWords());
-    if (Game.GameOverShown)
-        Append(news, OutcomeText());
-    else if (Game.GamePaused)
-        Append(news, "GAME PAUSED");
+    Append(news, StateInWords());
+    if (PersonIsToMove() && !std::exchange(Game.KeysTold, true))
+        Append(news, "The arrow keys move the ghost line, Space turns it, Return draws it. Home "
+                     "tells its place, End how the game stands, Shift with an arrow the next box");
     return news;
 }
 
@@ -94,10 +111,13 @@ void TellScoreNowAndThen() {
         Tell(ScoreInWords());
 }
 
-void TellGhostLine() {
-    if (!IsListenedTo() || Game.GhostLine == Game.Told.GhostLine)
-        return;
-    Game.Told.GhostLine = Game.GhostLine;
-    if (Game.GhostLine > 0)
-        Say(GhostLineInWords());
+std::string StandingInWords() {
+    if (Game.BoxCount == 0)
+        return NoGameInWords();
+    std::string standing;
+    if (IsPlayer(Game.CurrentPlayer) && !Game.GameOverShown)
+        Append(standing, TurnText(Game.CurrentPlayer));
+    Append(standing, StateInWords());
+    Append(standing, ScoreInWords());
+    return standing;
 }

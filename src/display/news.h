@@ -2,6 +2,8 @@
 // text that replaces what is being said, and says and costs nothing where nobody listens.
 #pragma once
 
+#include <string>
+
 // Whose turn it is and what is new since the last telling: the field, the line that the other
 // player drew, the boxes taken, the score, a pause, the winner. Told when a person's turn begins
 // and when a game is started, paused, prepared, over and given up.
@@ -11,5 +13,5 @@ void TellNews();
 // last telling: their lines come faster than one can listen.
 void TellScoreNowAndThen();
 
-// The ghost line, if it is another one than before.
-void TellGhostLine();
+// Whose turn it is, a pause or the winner, and the score. Without a game, how to start one.
+std::string StandingInWords();

@@ -7,6 +7,11 @@
 // for a line that is not on the field.
 std::string LineInWords(int line);
 
-// The line that is previewed, and what drawing it would do: "across, row 3, column 4, free". Empty
-// when none is.
-std::string GhostLineInWords();
+// "row 3, column 4".
+std::string PlaceOfBoxInWords(int box);
+
+// "Guardian's", or which sides are drawn: "no sides", "2 sides: top, left".
+std::string SidesInWords(int box);
+
+// "a box" or "3 boxes".
+std::string BoxesInWords(int count);

@@ -10,6 +10,7 @@
 #include "base/random.h"
 #include "core/play/game_setup.h"
 #include "core/play/pointer_input.h"
+#include "core/play/review.h"
 #include "core/play/turn_loop.h"
 #include "display/command_states.h"
 #include "display/field.h"
@@ -366,6 +367,18 @@ void picPlayingField_KeyDown(FieldKey key) {
         return TurnGhostLine();
     case FieldKey::Draw:
         return PressGhostLine();
+    case FieldKey::TellPlace:
+        return TellPlace();
+    case FieldKey::TellStanding:
+        return TellStanding();
+    case FieldKey::TellBoxLeft:
+        return TellBox(Direction::Left);
+    case FieldKey::TellBoxAbove:
+        return TellBox(Direction::Up);
+    case FieldKey::TellBoxRight:
+        return TellBox(Direction::Right);
+    case FieldKey::TellBoxBelow:
+        return TellBox(Direction::Down);
     }
 }
 

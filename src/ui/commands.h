@@ -60,8 +60,21 @@ void SetPlayers(const PlayerSettings& chosen);
 // Ok of the grid dialog: the background changes at once, the rest with what is drawn next.
 void SetGrid(const GridSettings& chosen);
 
-// The keys that play, whatever the desktop calls them.
-enum class FieldKey { Left, Up, Right, Down, Turn, Draw };
+// The keys that play and ask, whatever the desktop calls them.
+enum class FieldKey {
+    Left,
+    Up,
+    Right,
+    Down,
+    Turn,
+    Draw,
+    TellPlace,
+    TellStanding,
+    TellBoxLeft,
+    TellBoxAbove,
+    TellBoxRight,
+    TellBoxBelow
+};
 
 // A press of any button at (x, y) in twips on the field, a move to there, and the press of a key.
 void picPlayingField_MouseDown(float x, float y);

@@ -3,9 +3,9 @@
 #include <cmath>
 
 #include "ai/move_selection.h"
+#include "core/play/review.h"
 #include "core/state/grid.h"
 #include "display/field.h"
-#include "display/news.h"
 #include "platform/desktop.h"
 
 namespace {
@@ -101,7 +101,7 @@ void StepGhostLine(Step leadFrom) {
     const int last = Game.LastGhostLine > 0 ? Game.LastGhostLine : MiddleLine();
     const int line = Game.GhostLine > 0 ? leadFrom(Game.GhostLine) : UndrawnLineNear(last);
     if (line == 0)
-        return;
+        return TellNoOtherLine();
     LetPointerRest();
     PreviewInstead(line);
 }

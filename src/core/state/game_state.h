@@ -55,6 +55,7 @@ struct ToldNews {
     bool Field = false; // its size and how far it had come
     Integer LastLine = 0;
     Integer GhostLine = 0;
+    Integer Box = 0; // read since the last other news
     PerPlayer<Integer> Score;
     float Time = 0; // seconds since midnight
 
@@ -153,6 +154,7 @@ struct Requests {
     std::string GameToOpen;                      // the file that Command::Open opens
     bool ResizeWarningShown = false;
     bool ShowHistory = false;   // the help viewer shows the history, not the help
+    bool KeysTold = false;      // to who listens, since the program started
     bool ProgramEnding = false; // every wait and loop unwinds
 
     bool operator==(const Requests&) const = default;

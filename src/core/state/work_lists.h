@@ -10,10 +10,13 @@ struct RiskyLine {
     Integer Size = 0;
 };
 
-struct WorkLists {
+struct ChainLists {
     CountedList<Integer> ChainLines;     // capture lines found on one side; also the safe lines
     CountedList<Integer> ChainTailLines; // capture lines found on the other side
     CountedList<Integer> ChainBoxes;     // boxes that a line would let the opponent take, in order
+};
+
+struct WorkLists : ChainLists {
     CountedList<RiskyLine> RiskyLines;
 };
 

@@ -19,15 +19,20 @@ namespace {
 std::optional<FieldKey> FieldKeyOf(const QKeyEvent& event) {
     if ((event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) != 0)
         return std::nullopt;
+    const bool asks = (event.modifiers() & Qt::ShiftModifier) != 0;
     switch (event.key()) {
     case Qt::Key_Left:
-        return FieldKey::Left;
+        return asks ? FieldKey::TellBoxLeft : FieldKey::Left;
     case Qt::Key_Up:
-        return FieldKey::Up;
+        return asks ? FieldKey::TellBoxAbove : FieldKey::Up;
     case Qt::Key_Right:
-        return FieldKey::Right;
+        return asks ? FieldKey::TellBoxRight : FieldKey::Right;
     case Qt::Key_Down:
-        return FieldKey::Down;
+        return asks ? FieldKey::TellBoxBelow : FieldKey::Down;
+    case Qt::Key_Home:
+        return FieldKey::TellPlace;
+    case Qt::Key_End:
+        return FieldKey::TellStanding;
     case Qt::Key_Space:
         return FieldKey::Turn;
     case Qt::Key_Return:
@@ -49,9 +54,6 @@ PlayingField::PlayingField(QWidget* parent) : QWidget(parent) {
     MakeWidgetsSpeak(); // before a name is set, which a screen reader asks for at once
     setObjectName("picPlayingField");
     setAccessibleName("Playing field");
-    setAccessibleDescription(
-        "Point at the gap between two points and press to draw a line; or the arrow keys move the "
-        "ghost line, Space turns it, Return draws it.");
     setFocusPolicy(Qt::StrongFocus);
     setAttribute(Qt::WA_OpaquePaintEvent);
     setMouseTracking(true);

@@ -5,7 +5,8 @@
 #include <QComboBox>
 #include <array>
 
-#include "display/words.h"
+#include "core/play/review.h"
+#include "display/news.h"
 #include "ui/qt/playing_field.h"
 
 namespace {
@@ -91,8 +92,11 @@ public:
     explicit SpeakingField(QWidget* field) : SpeakingWidget(field, QAccessible::Canvas) {}
 
     QString text(QAccessible::Text kind) const override {
-        return kind == QAccessible::Value ? QString::fromStdString(GhostLineInWords())
-                                          : SpeakingWidget::text(kind);
+        if (kind == QAccessible::Value)
+            return QString::fromStdString(GhostLineInWords());
+        if (kind == QAccessible::Description)
+            return QString::fromStdString(StandingInWords());
+        return SpeakingWidget::text(kind);
     }
 };
 
