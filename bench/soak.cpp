@@ -7,7 +7,6 @@
 #include <string>
 
 #include "support/anything.h"
-#include "support/board.h"
 #include "support/files.h"
 #include "support/person.h"
 #include "ui/commands.h"
@@ -23,12 +22,8 @@ void DoAnythingAtAll() {
 }
 
 void LookForFaults() {
-    if ((Game.GameInPlay || Game.GamePaused) && !BoardIsSound())
-        fault = "the board is not sound";
-    for (const MessageBox& box : TheNullDesktop.Boxes)
-        if (box.Title == "Quiblink")
-            fault = box.Text;
-    TheNullDesktop.Boxes.clear();
+    if (fault.empty())
+        fault = FaultSeen();
 }
 
 void LiveThroughAYield() {
@@ -45,7 +40,7 @@ bool PlayOneGame(unsigned seed) {
     Game.GridColumns = ToInteger(1 + static_cast<int>(chance() % 9));
     Game.GridRows = ToInteger(1 + static_cast<int>(chance() % 7));
     LetPersonsPlay(seed);
-    TheNullDesktop.WhenYielding = LiveThroughAYield;
+    TheNullDesktop.WhenYielding = TheNullDesktop.WhenAsked = LiveThroughAYield;
     do {
         DoAnythingAtAll();
         RunGuarded([] { RunCommand(Command::Start); });

@@ -1,9 +1,16 @@
 #include "support/anything.h"
 
 #include <algorithm>
+#include <cstdlib>
 #include <iterator>
+#include <random>
+#include <utility>
 
 #include "core/play/game_setup.h"
+#include "display/command_states.h"
+#include "storage/value_file.h"
+#include "support/board.h"
+#include "support/files.h"
 #include "support/person.h"
 #include "ui/commands.h"
 
@@ -49,12 +56,54 @@ void PressAnyLine(std::uint32_t choice) {
         PressLine(lines.at(choice % lines.size()));
 }
 
+// Or presses there, after a movement over a dialog or a menu, which the field does not hear of.
 void PointAnywhere(std::uint32_t choice) {
-    PointTo({static_cast<float>(100 * TakeDigit(choice, 90)),
-             static_cast<float>(100 * TakeDigit(choice, 70))});
+    const PointerPlace place{static_cast<float>(100 * TakeDigit(choice, 90)),
+                             static_cast<float>(100 * TakeDigit(choice, 70))};
+    if (TakeDigit(choice, 2) == 0)
+        return PointTo(place);
+    TheNullDesktop.Pointer = place;
+    PressHere();
 }
 
+bool mayBeDamaged = false; // the game that waits to be started
+
 } // namespace
+
+std::string Damaged(std::string text, std::uint32_t seed) {
+    std::mt19937 chance(seed);
+    for (auto changes = chance() % 4; changes > 0 && !text.empty(); --changes) {
+        const std::size_t begin = text.rfind('\n', chance() % text.size()) + 1;
+        const std::size_t end = std::min(text.find('\r', begin), text.size());
+        const int number = std::atoi(text.c_str() + begin);
+        const int small = static_cast<int>(chance() % 32);
+        const int numbers[] = {small, small, small, number + 1, number - 1, -small, 32767, -32768};
+        text.replace(begin, end - begin, std::to_string(numbers[chance() % std::size(numbers)]));
+    }
+    if (chance() % 32 == 0)
+        text.resize(chance() % (text.size() + 1));
+    return text;
+}
+
+void OpenDamaged(const std::string& text) {
+    if (!IsEnabled(Command::Open))
+        return;
+    mayBeDamaged = true;
+    PutBytes("given.qbs", text);
+    OpenGame("given.qbs");
+    CloseChannel();
+}
+
+std::string FaultSeen() {
+    const bool isUnderWay = Game.GameInPlay || (Game.GamePaused && !mayBeDamaged);
+    std::string fault = isUnderWay && !BoardIsSound() ? "the board is not sound" : "";
+    for (const MessageBox& box : std::exchange(TheNullDesktop.Boxes, {}))
+        if (box.Title == "Quiblink" && !mayBeDamaged)
+            fault = box.Text;
+    if (Game.GameInPlay)
+        mayBeDamaged = false;
+    return fault;
+}
 
 void DoAnything(std::uint32_t number) {
     using Thing = void (*)(std::uint32_t);
@@ -65,12 +114,13 @@ void DoAnything(std::uint32_t number) {
         PressAnyLine,
         PressAnyLine,
         PointAnywhere,
+        [](std::uint32_t seed) { OpenDamaged(Damaged(BytesOf("saved.qbs"), seed)); },
         [](std::uint32_t) { OpenGame("saved.qbs"); },
-        [](std::uint32_t) { SaveGameAs(".", "saved"); },
+        [](std::uint32_t) { SaveGameAs(".", mayBeDamaged ? "damaged" : "saved"); },
         [](std::uint32_t) { TheNullDesktop.Clock = 86399.9; }, // midnight is near
         [](std::uint32_t) { PressHere(); },
         [](std::uint32_t command) { RunCommand(static_cast<Command>(command % CommandCount)); }};
-    constexpr std::uint32_t commands = 9; // as likely as the other things together
+    constexpr std::uint32_t commands = 10; // as likely as the other things together
     TheNullDesktop.Answers.assign(9, TakeDigit(number, 4) == 0 ? MessageAnswer::Yes
                                                                : MessageAnswer::No);
     const auto thing = static_cast<std::size_t>(TakeDigit(number, std::size(things) + commands));

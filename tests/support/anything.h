@@ -2,7 +2,18 @@
 #pragma once
 
 #include <cstdint>
+#include <string>
 
 // One of all the things that a user may do with the window as it is; every number stands for one.
 // Needs the null desktop.
 void DoAnything(std::uint32_t number);
+
+// The text of a saved game with up to three of its numbers changed, and seldom cut short.
+std::string Damaged(std::string text, std::uint32_t seed);
+
+// Opens a file of such a text, if a file may be opened.
+void OpenDamaged(const std::string& text);
+
+// What is wrong with the game as it stands, or with what it told; "" = nothing. Such a game may be
+// refused where it begins, and is sound from then on.
+std::string FaultSeen();

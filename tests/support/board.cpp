@@ -13,10 +13,8 @@ void Recount(GameState& game) {
     game.LinesDrawn = game.BoxesClaimed = 0;
     game.PlayerScore = {};
     for (int line = 1; line <= game.LineCount; ++line) {
-        if (game.Lines.at(line).Drawn == 0)
-            continue;
-        game.Lines.at(line).Drawn = ToInteger(line);
-        ++game.LinesDrawn;
+        if (game.Lines.at(line).Drawn != 0)
+            ++game.LinesDrawn;
     }
     for (int number = 1; number <= game.BoxCount; ++number) {
         Box& box = game.Boxes.at(number);

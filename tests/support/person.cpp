@@ -4,7 +4,6 @@
 #include <stdexcept>
 
 #include "base/random.h"
-#include "core/state/layout.h"
 #include "storage/value_file.h"
 #include "ui/commands.h"
 
@@ -57,28 +56,4 @@ void LetPersonsPlay(std::uint32_t seed) {
         if (!lines.empty())
             PressLine(lines.at(chance() % lines.size()));
     };
-}
-
-bool UseGameBriefly(std::function<void()> meanwhile) {
-    bool isWhole = false;
-    LetPersonsPlay(1);
-    TheNullDesktop.WhenYielding = [&] {
-        isWhole = BoardIsWhole();
-        if (meanwhile)
-            meanwhile();
-        if (TheNullDesktop.Yields % 8 == 0)
-            RunGuarded(Form_Resize);
-        if (TheNullDesktop.Yields % 40 == 0)
-            Game.QuitRequested = Game.GameInPlay;
-    };
-    RunGuarded(Form_Resize);
-    for (const int line : UndrawnLines())
-        PressLine(line);
-    RunGuarded([] { RunCommand(Command::Start); });
-    meanwhile = nullptr;
-    Game.GamePaused = false; // so that a new game begins, which heals everything
-    isWhole = Game.ProgramEnding;
-    RunGuarded([] { RunCommand(Command::Start); });
-    TheNullDesktop.WhenYielding = nullptr;
-    return isWhole && !Game.GameInPlay;
 }

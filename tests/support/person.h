@@ -2,7 +2,6 @@
 #pragma once
 
 #include <cstdint>
-#include <functional>
 #include <vector>
 
 #include "core/state/game_state.h"
@@ -23,8 +22,3 @@ std::vector<int> UndrawnLines();
 // From now on persons ask for a hint and draw a random line whenever the game waits for them, and
 // say Yes to every box.
 void LetPersonsPlay(std::uint32_t seed);
-
-// Resizes, presses, and plays for some dozens of yields, whatever a file has left of the game, and
-// does something meanwhile in each yield; then plays a new game. Tells whether that was whole and
-// no game is left running.
-bool UseGameBriefly(std::function<void()> meanwhile = nullptr);

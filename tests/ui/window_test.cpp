@@ -8,8 +8,7 @@
 
 namespace {
 
-constexpr unsigned Background = 0x000000; // the built-in colours
-constexpr unsigned Drawn = 0xFFFFFF;
+constexpr unsigned Drawn = 0xFFFFFF; // the built-in colours
 constexpr unsigned Text = 0x000000;
 constexpr unsigned Ghost = 0xFF0000;
 constexpr int Spacing = 25;
@@ -64,7 +63,7 @@ protected:
 
     void QuitGame() {
         Use("ctrl+q", "Quit the Game", "alt+y");
-        Await("the cleared field", [&] { return AllPointsAre(Background); });
+        Await("the cleared field", [&] { return CountDrawnPoints() == 0; });
     }
 
     void StartGame(const std::string& keys, int columns, int rows) {
@@ -78,7 +77,7 @@ protected:
         const int left = window.left() + (window.width() - columns * Spacing) / 2;
         for (int top = window.top(); top < window.center().y(); ++top) {
             Field = FieldAt({left, top}, columns, rows);
-            if (!AllPointsAre(Drawn))
+            if (CountDrawnPoints() < Field.Points.size())
                 continue;
             Field = FieldAt({left, top + 1}, columns, rows); // the middle of the dots
             return true;
@@ -86,9 +85,9 @@ protected:
         return false;
     }
 
-    bool AllPointsAre(unsigned color) {
-        return std::all_of(Field.Points.begin(), Field.Points.end(),
-                           [&](QPoint point) { return PixelAt(point) == color; });
+    std::size_t CountDrawnPoints() {
+        return std::count_if(Field.Points.begin(), Field.Points.end(),
+                             [&](QPoint point) { return IsDrawn(point); });
     }
 
     bool IsDrawn(QPoint point) { return PixelAt(point) == Drawn; }

@@ -25,13 +25,10 @@ void NewGame() {
 
     SizeBoxTables();
     SizeLineTables();
-    Game.BoxesClaimed = 0;
-    Game.LinesDrawn = 0;
     BuildField();
 
     ForgetTurn();
     Game.CurrentPlayer = 0;
-    Game.PlayerScore = {};
     ShowPlayerStatus(1);
     ShowPlayerStatus(2);
     ShowLinesStatus();

@@ -33,20 +33,13 @@ void EnterLine(Board& board, int line, int x, int y, int box, const SidePair& si
     board.Lines.at(line + sides.Step).FirstBox = ToInteger(box);
 }
 
-// An empty board of the same field.
-Board Cleared(const Board& board) {
-    Board empty = board;
-    empty.Lines.assign(board.Lines.size(), Line{});
-    empty.Boxes.assign(board.Boxes.size(), Box{});
-    empty.PlayerScore = {};
-    empty.LinesDrawn = empty.BoxesClaimed = 0;
-    LayOut(empty);
-    return empty;
-}
-
 } // namespace
 
 void LayOut(Board& board) {
+    board.Lines.assign(board.Lines.size(), Line{});
+    board.Boxes.assign(board.Boxes.size(), Box{});
+    board.PlayerScore = {};
+    board.LinesDrawn = board.BoxesClaimed = 0;
     const int columns = FieldColumns();
     const int rows = FieldRows();
     for (int column = 0; column <= columns; ++column) {
@@ -66,7 +59,8 @@ void LayOut(Board& board) {
 bool BoardIsWhole() {
     if (!CountsMatchField())
         return false;
-    Board whole = Cleared(Game);
+    Board whole = Game;
+    LayOut(whole);
     for (int line = 1; line <= Game.LineCount; ++line)
         if ((whole.Lines.at(line).Drawn = Game.Lines.at(line).Drawn) != 0)
             ++whole.LinesDrawn;
@@ -75,9 +69,9 @@ bool BoardIsWhole() {
         for (const Integer side : box.Sides)
             if (whole.Lines.at(side).Drawn != 0)
                 ++box.SidesDrawn;
-        box.Owner = Game.Boxes.at(number).Owner;
         if (box.SidesDrawn < 4)
             continue;
+        box.Owner = Game.Boxes.at(number).Owner;
         if (!IsPlayer(box.Owner))
             return false;
         ++whole.PlayerScore.at(box.Owner);

@@ -3,8 +3,8 @@
 
 #include "core/state/game_state.h"
 
-// Fills the coordinates and neighbours of the lines and boxes, of the size that the field on screen
-// has. The tables are sized and cleared before.
+// Makes an empty board of the field on screen: lines and boxes have their coordinates and
+// neighbours and nothing else. Counts and edges are set, and the tables sized, before.
 void LayOut(Board& board);
 
 // Whether the game can be played to its end: counts and tables are those of the field, and sides,

@@ -8,13 +8,14 @@
 #include <QPalette>
 #include <algorithm>
 
+#include "ui/qt/contrast.h"
+
 namespace {
 
-// The one colour of the line icons, which stands out from light and dark toolbars alike.
+// The one colour of the line icons, as the pictures have it.
 constexpr QRgb Accent = 0xFFD4620A;
-constexpr int DisabledAlpha = 90; // of 255
 
-constexpr int LargestSize = 96; // pixels
+constexpr int LargestSize = 144; // pixels
 
 // As sharp as can be in the sizes that there are; for other screens the largest is made smaller.
 QImage PictureOf(const QString& name, QSize size) {
@@ -26,13 +27,31 @@ QImage PictureOf(const QString& name, QSize size) {
     return picture.convertToFormat(QImage::Format_ARGB32_Premultiplied);
 }
 
-// Of black and the accent only the latter has red in it, which so tells how much of a pixel is
-// black.
-QRgb WithTextForBlack(QRgb pixel, QRgb text) {
-    const int black = std::max(0, qAlpha(pixel) - qRed(pixel) * 255 / qRed(Accent));
-    const auto mixed = [black](int own, int ofText) { return own + ofText * black / 255; };
-    return qRgba(mixed(qRed(pixel), qRed(text)), mixed(qGreen(pixel), qGreen(text)),
-                 mixed(qBlue(pixel), qBlue(text)), qAlpha(pixel));
+struct IconColors {
+    QColor Strokes, Accent;
+};
+
+// The desktop's text, and an accent and a disabled grey that stand out from its windows.
+IconColors ColorsOf(QIcon::Mode mode) {
+    const QPalette palette = QGuiApplication::palette();
+    const QColor background = palette.color(QPalette::Window);
+    const QColor text = palette.color(QPalette::ButtonText);
+    const QColor start = mode == QIcon::Disabled ? background : QColor(Accent);
+    const QColor seen = MixedUntilSeen(start, text, background, ContrastOfShapes);
+    return {mode == QIcon::Disabled ? seen : text, seen};
+}
+
+// Of black and the accent only the latter has red in it, which so tells how much of a pixel is of
+// which.
+QRgb Colored(QRgb pixel, const IconColors& colors) {
+    const int accent = std::min(qAlpha(pixel), qRed(pixel) * 255 / qRed(Accent));
+    const int black = qAlpha(pixel) - accent;
+    const auto mixed = [accent, black](int ofStrokes, int ofAccent) {
+        return (ofStrokes * black + ofAccent * accent) / 255;
+    };
+    return qRgba(mixed(colors.Strokes.red(), colors.Accent.red()),
+                 mixed(colors.Strokes.green(), colors.Accent.green()),
+                 mixed(colors.Strokes.blue(), colors.Accent.blue()), qAlpha(pixel));
 }
 
 class LineIconEngine : public QIconEngine {
@@ -47,18 +66,9 @@ public:
 
     QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State /*state*/) override {
         QImage picture = PictureOf(Name, size);
-        QColor text = QGuiApplication::palette().color(QPalette::ButtonText);
-        if (mode == QIcon::Disabled) {
-            text.setAlpha(DisabledAlpha);
-            QPainter painter(&picture);
-            painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
-            painter.fillRect(picture.rect(), text);
-        } else {
-            auto* pixels = reinterpret_cast<QRgb*>(picture.bits());
-            std::for_each(
-                pixels, pixels + picture.sizeInBytes() / sizeof(QRgb),
-                [rgb = text.rgb()](QRgb& pixel) { pixel = WithTextForBlack(pixel, rgb); });
-        }
+        auto* pixels = reinterpret_cast<QRgb*>(picture.bits());
+        std::for_each(pixels, pixels + picture.sizeInBytes() / sizeof(QRgb),
+                      [colors = ColorsOf(mode)](QRgb& pixel) { pixel = Colored(pixel, colors); });
         return QPixmap::fromImage(picture);
     }
 

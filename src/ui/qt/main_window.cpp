@@ -8,6 +8,7 @@
 #include <QShortcut>
 #include <QToolBar>
 #include <QWindow>
+#include <algorithm>
 #include <cmath>
 
 #include "core/state/game_state.h"
@@ -29,7 +30,6 @@
 namespace {
 
 constexpr QSize RoomForFrame(80, 80); // a centred window keeps its title and borders on the screen
-constexpr int IconSize = 24;
 // Of the picture, in spacings: room for two boxes, and for ten with a calm margin.
 constexpr int SmallestPicture = 3;
 constexpr int InitialPicture = 15;
@@ -43,6 +43,16 @@ QRect ToPixels(const Rectangle& twips) {
     return {ToPixels(twips.Left, Game.TwipsPerPixelX), ToPixels(twips.Top, Game.TwipsPerPixelY),
             ToPixels(twips.Width, Game.TwipsPerPixelX),
             ToPixels(twips.Height, Game.TwipsPerPixelY)};
+}
+
+// Of the toolbar's icons: 24 pixels beside letters of 10 points, and as much larger as they are, in
+// steps in which the pictures are sharp.
+QSize IconSize() {
+    constexpr double pixelsPerPoint = 2.4;
+    constexpr int step = 6, smallest = 24, largest = 60;
+    const long steps = std::lround(QApplication::font().pointSizeF() * pixelsPerPoint / step);
+    const int size = std::clamp(static_cast<int>(steps) * step, smallest, largest);
+    return {size, size};
 }
 
 // In the sizes that a desktop's task bars and window lists ask for.
@@ -114,6 +124,8 @@ void MainWindow::changeEvent(QEvent* event) {
     QMainWindow::changeEvent(event);
     if (event->type() == QEvent::WindowStateChange)
         KeepOnScreenSoon();
+    if (event->type() == QEvent::FontChange)
+        tbrToolBar->setIconSize(IconSize());
 }
 
 bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
@@ -190,7 +202,7 @@ void MainWindow::BuildToolBar() {
     tbrToolBar->setMovable(false);
     tbrToolBar->setContextMenuPolicy(Qt::PreventContextMenu);
     setContextMenuPolicy(Qt::NoContextMenu); // it would offer to hide the toolbar
-    tbrToolBar->setIconSize(QSize(IconSize, IconSize));
+    tbrToolBar->setIconSize(IconSize());
     addToolBar(tbrToolBar);
 
     const auto addButton = [this](Command command, const char* icon, const char* toolTip) {

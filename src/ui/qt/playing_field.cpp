@@ -3,15 +3,17 @@
 #include <QApplication>
 #include <QCursor>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QMouseEvent>
 #include <QPainter>
-#include <cstdlib>
+#include <QVBoxLayout>
 #include <utility>
 
 #include "core/state/game_state.h"
 #include "platform/qt/field_picture.h"
 #include "platform/qt/qt_color.h"
 #include "ui/commands.h"
+#include "ui/qt/contrast.h"
 #include "ui/qt/spoken_widgets.h"
 
 namespace {
@@ -50,10 +52,15 @@ PointerPlace InTwips(QPointF place) {
 
 } // namespace
 
-PlayingField::PlayingField(QWidget* parent) : QWidget(parent) {
+PlayingField::PlayingField(QWidget* parent) : QWidget(parent), lblInvitation(new QLabel(this)) {
     MakeWidgetsSpeak(); // before a name is set, which a screen reader asks for at once
     setObjectName("picPlayingField");
     setAccessibleName("Playing field");
+    lblInvitation->setObjectName("lblInvitation");
+    lblInvitation->setText("Ctrl+T starts a game, Ctrl+P makes you a player");
+    lblInvitation->setAlignment(Qt::AlignCenter);
+    lblInvitation->setWordWrap(true);
+    (new QVBoxLayout(this))->addWidget(lblInvitation);
     setFocusPolicy(Qt::StrongFocus);
     setAttribute(Qt::WA_OpaquePaintEvent);
     setMouseTracking(true);
@@ -63,7 +70,19 @@ PlayingField::PlayingField(QWidget* parent) : QWidget(parent) {
 void PlayingField::ShowControls() {
     const bool isBusy = frmQuibsMain.picPlayingField.MousePointer == PointerShape::Hourglass;
     setCursor(isBusy ? Qt::WaitCursor : Qt::ArrowCursor);
+    ShowInvitation(Game.BoxCount == 0);
     update();
+}
+
+void PlayingField::ShowInvitation(bool isShown) {
+    if (isShown) {
+        const QColor background = ToQColor(frmQuibsMain.picPlayingField.BackColor);
+        QPalette quiet;
+        quiet.setColor(QPalette::WindowText, MixedUntilSeen(background, StrongestOn(background),
+                                                            background, ContrastOfText));
+        lblInvitation->setPalette(quiet);
+    }
+    lblInvitation->setVisible(isShown);
 }
 
 PointerPlace PlayingField::PlaceOfPointer() {
@@ -106,11 +125,9 @@ void PlayingField::MarkFocus(bool isMarked) {
 }
 
 void PlayingField::PaintFocusFrame(QPainter& painter) const {
-    constexpr int leastContrast = 64;
-    const int background = qGray(ToQColor(frmQuibsMain.picPlayingField.BackColor).rgb());
-    QColor color = palette().color(QPalette::Highlight);
-    if (std::abs(qGray(color.rgb()) - background) < leastContrast)
-        color = background < 128 ? Qt::white : Qt::black;
+    const QColor background = ToQColor(frmQuibsMain.picPlayingField.BackColor);
+    const QColor color = MixedUntilSeen(palette().color(QPalette::Highlight),
+                                        StrongestOn(background), background, ContrastOfShapes);
     constexpr qreal width = 2;
     painter.setPen(QPen(color, width, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
     painter.drawRect(QRectF(rect()).adjusted(width / 2, width / 2, -width / 2, -width / 2));

@@ -6,6 +6,8 @@
 
 #include "platform/desktop.h"
 
+class QLabel;
+
 class PlayingField : public QWidget {
     Q_OBJECT
 
@@ -34,9 +36,11 @@ protected:
 
 private:
     void SayWhatWaits();
+    void ShowInvitation(bool isShown);
     void PaintFocusFrame(QPainter& painter) const;
     void MarkFocus(bool isMarked);
 
+    QLabel* lblInvitation; // over a field on which there is no game
     QString Unsaid;
     // Of a pointer that lies still, the very place that was told.
     PointerPlace PlaceOf(const QMouseEvent& event);

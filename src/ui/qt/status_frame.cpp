@@ -92,7 +92,13 @@ void StatusFrame::TakeSize() {
     if (grid->rowMinimumHeight(TurnRow) != turnHeight)
         grid->setRowMinimumHeight(TurnRow, turnHeight);
     const QSize needed = grid->totalMinimumSize();
-    setFixedSize(std::max(SmallestWidth, needed.width()), needed.height());
+    const auto cutOff = [](const StatusLabel* line) {
+        return line->sizeHint().width() - line->minimumSizeHint().width();
+    };
+    const int wanted =
+        needed.width() + std::max(cutOff(txtPlayer1Status), cutOff(txtPlayer2Status));
+    setFixedSize(std::max(needed.width(), std::min(Room, std::max(SmallestWidth, wanted))),
+                 needed.height());
 }
 
 void StatusFrame::TakeFont(int room) {

@@ -6,8 +6,9 @@
 class StatusLabel;
 class Swatch;
 
-// As wide as its widest texts in the desktop's font, and never narrower than a good deal. It has a
-// fixed size, which changes with the font. Where the screen is too narrow its font is smaller.
+// As wide as its widest texts and the players' names in the desktop's font, and never narrower than
+// a good deal, as far as the screen has room: where it has not, names are shortened, and then its
+// font is smaller. It has a fixed size, which changes with the font and the names.
 class StatusFrame : public QFrame {
     Q_OBJECT
 
@@ -27,7 +28,7 @@ private:
     // The desktop's, or a smaller one in which every text has room.
     void TakeFont(int room);
 
-    int Room = 0; // pixels
+    int Room = 0; // pixels, on the screen
     QFont DesktopFont;
     Swatch* shpPlayer1Status;
     Swatch* shpPlayer2Status;

@@ -3,6 +3,7 @@
 #include <QEvent>
 #include <QPainter>
 #include <QTextDocument>
+#include <algorithm>
 #include <utility>
 
 namespace {
@@ -33,7 +34,8 @@ void StatusLabel::ShowText(const std::string& text, std::size_t nameLength) {
 
 QSize StatusLabel::sizeHint() const {
     const QSize smallest = minimumSizeHint();
-    return {Columns.isEmpty() ? WidthOf({Name, Rest}) : smallest.width(), smallest.height()};
+    const int whole = WidthOf({Name, Rest}) + WidthOf(Columns.mid(1));
+    return {Columns.isEmpty() ? whole : std::max(whole, smallest.width()), smallest.height()};
 }
 
 QSize StatusLabel::minimumSizeHint() const {
