@@ -61,12 +61,6 @@ std::string NoGameInWords() {
            (ComputersPlayEachOther() ? ", Ctrl+P makes you a player." : ".");
 }
 
-std::string StateInWords() {
-    if (Game.GameOverShown)
-        return OutcomeText();
-    return Game.GamePaused ? "GAME PAUSED" : "";
-}
-
 std::string News() {
     if (Game.BoxCount == 0)
         return NoGameInWords();
@@ -80,7 +74,10 @@ std::string News() {
             Append(news, DeedsOf(player));
     if (Game.PlayerScore != Game.Told.Score || Game.GameOverShown)
         Append(news, ScoreInWords());
-    Append(news, StateInWords());
+    if (Game.GameOverShown)
+        Append(news, OutcomeText());
+    else if (Game.GamePaused)
+        Append(news, "GAME PAUSED");
     if (PersonIsToMove() && !std::exchange(Game.KeysTold, true))
         Append(news, "The arrow keys move the ghost line, Space turns it, Return draws it. Home "
                      "tells its place, End how the game stands, Shift with an arrow the next box");
@@ -114,10 +111,14 @@ void TellScoreNowAndThen() {
 std::string StandingInWords() {
     if (Game.BoxCount == 0)
         return NoGameInWords();
+    const bool isOver = !Game.GameInPlay && !Game.GamePaused;
     std::string standing;
-    if (IsPlayer(Game.CurrentPlayer) && !Game.GameOverShown)
+    if (isOver)
+        Append(standing, OutcomeText());
+    else if (IsPlayer(Game.CurrentPlayer))
         Append(standing, TurnText(Game.CurrentPlayer));
-    Append(standing, StateInWords());
+    if (Game.GamePaused)
+        Append(standing, "GAME PAUSED, Ctrl+T goes on");
     Append(standing, ScoreInWords());
     return standing;
 }

@@ -6,6 +6,7 @@
 #include <array>
 
 #include "core/play/review.h"
+#include "core/state/game_state.h"
 #include "display/news.h"
 #include "ui/qt/playing_field.h"
 
@@ -87,6 +88,11 @@ private:
     std::array<QAccessible::Id, 2> Ids{};
 };
 
+// How to hear more, where there is a field.
+QString Keys() {
+    return Game.BoxCount == 0 ? "" : " Home, End and Shift with an arrow tell more.";
+}
+
 class SpeakingField : public SpeakingWidget {
 public:
     explicit SpeakingField(QWidget* field) : SpeakingWidget(field, QAccessible::Canvas) {}
@@ -95,7 +101,7 @@ public:
         if (kind == QAccessible::Value)
             return QString::fromStdString(GhostLineInWords());
         if (kind == QAccessible::Description)
-            return QString::fromStdString(StandingInWords());
+            return QString::fromStdString(StandingInWords()) + Keys();
         return SpeakingWidget::text(kind);
     }
 };
