@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <csignal>
 #include <random>
+#include <tuple>
 
 #include "base/random.h"
 #include "display/safe_lines.h"
@@ -21,6 +22,23 @@ namespace {
 
 constexpr std::size_t LongestStory = 16;
 
+// The start looks for sixty files, so it is made once.
+void StartAgain() {
+    static const auto start = [] {
+        StartFresh();
+        return std::pair(Game, frmQuibsMain);
+    }();
+    std::tie(Game, frmQuibsMain) = start;
+    ResetNullDesktop();
+    SeedRandom(1);
+}
+
+// One choice on a large field may take a second.
+void KeepNextGameSmall() {
+    Game.GridColumns = std::min<Integer>(Game.GridColumns, 5);
+    Game.GridRows = std::min<Integer>(Game.GridRows, 4);
+}
+
 void PlayWhatIsThere() {
     do
         RunGuarded([] { RunCommand(Command::Start); });
@@ -28,7 +46,7 @@ void PlayWhatIsThere() {
 }
 
 std::string AnyGame(std::mt19937& chance) {
-    StartFresh();
+    StartAgain();
     SeedRandom(chance());
     SetUpGame(1 + static_cast<int>(chance() % 5), 1 + static_cast<int>(chance() % 4),
               ToInteger(static_cast<int>(chance() % 4)), ToInteger(static_cast<int>(chance() % 4)));
@@ -65,7 +83,7 @@ void TryInput(const std::string& input) {
     constexpr itimerval second{{0, 0}, {1, 0}}; // of processor time; what takes longer is a finding
     std::signal(SIGVTALRM, [](int) { std::abort(); });
     setitimer(ITIMER_VIRTUAL, &second, nullptr);
-    StartFresh();
+    StartAgain();
     std::filesystem::remove("saved.qbs");
     OpenDamaged(input);
     std::string fault;
@@ -74,8 +92,10 @@ void TryInput(const std::string& input) {
     const auto tellOn = [&] {
         if (fault.empty())
             fault = FaultSeen();
+        KeepNextGameSmall();
         if (next < input.size())
             DoAnything(static_cast<unsigned char>(input.at(next++)) * 2654435761U);
+        KeepNextGameSmall();
         TheNullDesktop.Answers.resize(9, MessageAnswer::Yes);
     };
     LetPersonsPlay(1);
