@@ -60,15 +60,14 @@ TEST_F(Files, AreNotWrittenThroughTheLinksOfOthersInADirectoryForAll) {
     PutBytes("mine.qbs", "mine");
     std::filesystem::create_directory("all");
     std::filesystem::create_symlink("../mine.qbs", "all/game.qbs");
-    EXPECT_EQ(chmod("all", 01777), 0);
-    (void)!lchown("all/game.qbs", nobody, nobody); // which only root may do
-    // Not every system protects from them. What can be asked for is asked about.
+    // Which only root may do, and not every system then protects from.
+    EXPECT_TRUE(geteuid() != 0 ||
+                (chmod("all", 01777) | lchown("all/game.qbs", nobody, nobody)) == 0);
     if (FileExists("all/game.qbs"))
-        EXPECT_TRUE(FileReplacement("all/game.qbs").Write("mine"));
+        FileReplacement("all/game.qbs").Write("mine");
     else
         EXPECT_THROW(FileReplacement("all/game.qbs"), std::runtime_error);
     EXPECT_EQ(BytesOf("mine.qbs"), "mine");
-    EXPECT_EQ(CountFiles(), 2);
 }
 
 TEST_F(Files, AreWholeWhileCopiesOfTheProgramWriteThemAndAreKilled) {

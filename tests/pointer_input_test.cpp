@@ -130,20 +130,13 @@ TEST_F(Pointer, MovesFirstWhereItPressesAtAnotherPlaceThanItWasHeardAt) {
     const PointerPlace overMenu{-500, -300};
     const PointerPlace line6{static_cast<float>(Game.FieldLeft + 750),
                              static_cast<float>(Game.FieldTop + 380)};
-    const auto turn = [] { PressKeys("T"); };
-    const auto pointAtFirst = [] { PointAt(1); };
     const struct {
         void (*Show)();
         PointerPlace Press;
         int Chosen;
-    } cases[] = {{pointAtFirst, overMenu, 0},
-                 {pointAtFirst, line6, 6},
-                 {mnuHint_Click, overMenu, 15},
-
-                 {mnuHint_Click, {-499, -300}, 0},
-                 {mnuHint_Click, line6, 6},
-                 {turn, overMenu, 10},
-                 {turn, line6, 6}};
+    } cases[] = {{[] { PointAt(1); }, overMenu, 0},      {[] { PointAt(1); }, line6, 6},
+                 {mnuHint_Click, {-499, -300}, 0},       {mnuHint_Click, overMenu, 15},
+                 {[] { PressKeys("T"); }, overMenu, 10}, {[] { PressKeys("T"); }, line6, 6}};
     DrawForNobody({5, 8, 13});
     for (const GameState before = Game; const auto& c : cases) {
         Game = before;

@@ -211,7 +211,7 @@ TEST_F(RealWindow, NeedsNoPointerForAWholeGameItsDialogsAndItsFiles) {
     WaitForFocus("Select Color");
     Press("alt+h End BackSpace BackSpace a a Return");
     WaitForFocus("Define Playing Grid");
-    Press("Return");
+    Press("Tab Tab Tab Tab Return"); // past the other colours
     WaitForFocus("Quiblink");
     Await("the chosen colour", [&] { return ShownBackground() == 0x0000AA; });
     Press("ctrl+x");
