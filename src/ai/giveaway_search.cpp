@@ -1,7 +1,11 @@
 #include "ai/giveaway_search.h"
 
 #include <algorithm>
+#include <cstddef>
+#include <cstdint>
+#include <limits>
 #include <numeric>
+#include <utility>
 
 #include "core/state/game_state.h"
 #include "platform/desktop.h"
@@ -15,17 +19,11 @@ constexpr int RunsOfWideRounds = 12;       // left out of those that a round fol
 constexpr std::size_t CheapestFollowed = 2;
 constexpr std::size_t CheapestOfCheatFollowed = 3;
 
-constexpr long KindsOfPiecesPerStep = 8; // to look through for choices
-constexpr long RunsPerStep = 4;          // to look at when one of them is opened
+constexpr long ChoicesPerStep = 16;    // to look through
+constexpr long RunsEnteredPerStep = 4; // into the catalogue
 constexpr long StepsBetweenYields = 4'000;
 
-static_assert(3 * GiveawaySearch::UsualSteps < 2 * ValueMemory::MostValues); // one a step at most
-
-void KeepSmallest(std::vector<Choice>& choices) {
-    const auto boxesOf = [](const Choice& choice) { return choice.Place.Given().Boxes; };
-    const Integer smallest = boxesOf(*std::ranges::min_element(choices, {}, boxesOf));
-    std::erase_if(choices, [&](const Choice& choice) { return boxesOf(choice) > smallest; });
-}
+constexpr int MostChoices = 1 << 15; // of any field
 
 // What a decliner leaves of a run that was given to him.
 int BoxesDeclined(const Run& run) {
@@ -35,7 +33,7 @@ int BoxesDeclined(const Run& run) {
 } // namespace
 
 void Position::Add(Piece& piece, int times) {
-    Code = Code + (times > 0 ? piece.Code : -piece.Code);
+    Code += times > 0 ? piece.Code : -piece.Code;
     Runs += piece.RunCount() * times;
     const auto numberOf = [](const Share& s) { return s.Of->Number; };
     const auto share = std::ranges::lower_bound(Shares, piece.Number, {}, numberOf);
@@ -53,11 +51,10 @@ void Position::Open(RunPlace place, int times) {
 }
 
 GiveawaySearch::GiveawaySearch(int mover, int opponent, long steps)
-    : Kinds{mover, opponent}, Catalogue(!HasKind(ComputerCheat) && !HasKind(ComputerAverage)),
-      StepsLeft(steps) {}
+    : Kinds{mover, opponent}, StepsLeft(steps) {}
 
-std::vector<double> GiveawaySearch::Judge(const std::vector<Run>& runs,
-                                          const std::vector<int>& candidates) {
+std::vector<int> GiveawaySearch::Judge(const std::vector<Run>& runs,
+                                       const std::vector<int>& candidates) {
     const std::vector<RunPlace> places = Catalogue.Enter(runs);
     for (const RunPlace& place : places)
         if (place.Position == 0)
@@ -65,19 +62,26 @@ std::vector<double> GiveawaySearch::Judge(const std::vector<Run>& runs,
     AllRuns = Left.Runs;
     Values.Clear(Left.Runs);
 
-    std::vector<double> margins; // before the first round, what is given at once
+    const LoneRuns smallest = SmallestLoneRuns();
+    std::vector<int> margins; // before the first round, what is given at once
     for (const int candidate : candidates)
-        margins.push_back(-places.at(candidate).Given().Boxes);
-    std::vector<double> marginsBefore;
+        margins.push_back(-Box * places.at(candidate).Given().Boxes);
+    std::vector<int> marginsBefore;
     std::vector<int> order(candidates.size());
     std::iota(order.begin(), order.end(), 0);
     try {
         for (Round = FirstRound;; Round += RoundsApart) {
+            const bool isExact = Round >= Left.Runs - 1; // all behind the first giveaway
             std::ranges::stable_sort(order, {}, [&](int i) { return -margins.at(i); });
             marginsBefore = std::exchange(margins, std::vector(candidates.size(), Unjudged));
+            Turn turn;
             for (const int i : order)
-                margins.at(i) = ValueOfGiveaway({}, places.at(candidates.at(i)));
-            if (Round >= Left.Runs - 1) // all behind the first giveaway
+                if (const RunPlace place = places.at(candidates.at(i));
+                    isExact || !IsDominated(place, smallest)) {
+                    margins.at(i) = ValueOfGiveaway(turn, place);
+                    turn.Low = std::max(turn.Low, margins.at(i) - SameAs - 1);
+                }
+            if (isExact)
                 return margins;
         }
     } catch (const Interruption&) {
@@ -85,55 +89,82 @@ std::vector<double> GiveawaySearch::Judge(const std::vector<Run>& runs,
     }
 }
 
-double GiveawaySearch::ValueOf(const Turn& turn) {
-    double best = Unjudged;
-    double sum = 0;
+int GiveawaySearch::ValueOf(Turn turn) {
+    const std::size_t first = Followed.size();
+    FollowChoices(turn);
+    const std::size_t end = Followed.size();
+    const bool isAverage = KindOf(turn) == ComputerAverage;
+    int best = Unjudged;
+    std::int64_t sum = 0;
     int count = 0;
-    for (const Choice& choice : ChoicesOf(turn)) {
-        const double value = ValueOfGiveaway(turn, choice.Place);
-        best = std::max(best, value);
-        sum += choice.Count * value;
+    for (std::size_t i = first; i < end && best < turn.High; ++i) {
+        if (i == first + 1) // where the first is not good enough, all may be asked for
+            for (std::size_t next = i; next < end; ++next)
+                Values.Fetch(Left.Code + Catalogue.Open(Followed.at(next).Place).CodeChange);
+        const Choice choice = Followed.at(i);
+        const int value = ValueOfGiveaway(turn, choice.Place);
+        sum += std::int64_t{choice.Count} * value;
         count += choice.Count;
+        best = std::max(best, value);
+        if (!isAverage)
+            turn.Low = std::max(turn.Low, best);
     }
-    return KindOf(turn) == ComputerAverage ? sum / count : best;
+    Followed.resize(first);
+    return isAverage ? static_cast<int>(sum / count) : best;
 }
 
-// The choices that are followed. A lone ring of four is left by a cheat to its giver, whose turn it
-// is again: there is nothing better.
-std::vector<Choice> GiveawaySearch::ChoicesOf(const Turn& turn) {
-    std::vector<Choice> choices;
-    choices.reserve(Left.Runs);
+// Appends the choices that are followed, the cheapest first. A lone ring of four is left by a cheat
+// to its giver, whose turn it is again: there is nothing better.
+void GiveawaySearch::FollowChoices(const Turn& turn) {
+    const std::size_t first = Followed.size();
     const bool isAverage = KindOf(turn) == ComputerAverage;
-    const std::array<int, Manners> smallest = SmallestLoneRuns();
+    const LoneRuns smallest = SmallestLoneRuns();
     for (const auto& [piece, count] : Left.Shares) {
         const Run& run = piece->Runs.front();
-        const bool isAlone = piece->RunCount() == 1;
-        if (isAlone && run.IsRing() && run.Boxes == 4 && !isAverage &&
-            OpponentKindOf(turn) == ComputerCheat)
-            return {{{piece, 0}, count}};
-        if (isAlone && run.Boxes > smallest.at(MannerOf(run)) && !HasKind(ComputerAverage))
+        if (piece->RunCount() == 1 && run.IsRing() && run.Boxes == 4 && !isAverage &&
+            OpponentKindOf(turn) == ComputerCheat) {
+            Followed.resize(first);
+            Followed.push_back({{piece, 0}, count});
+            return;
+        }
+        if (IsDominated({piece, 0}, smallest))
             continue;
-        for (int position = 0; position < piece->RunCount(); ++position)
-            choices.push_back({{piece, position}, count});
+        for (RunPlace place{piece, 0}; place.Position < piece->RunCount(); ++place.Position) {
+            const int number = static_cast<int>(Followed.size() - first);
+            Followed.push_back({place, count, MostChoices * CostOf(turn, place) + number});
+        }
     }
-    if (isAverage)
-        KeepSmallest(choices);
+    std::sort(Followed.begin() + static_cast<std::ptrdiff_t>(first), Followed.end(),
+              [](const Choice& a, const Choice& b) { return a.Rank < b.Rank; });
+    const Integer fewest = Followed.at(first).Place.Given().Boxes;
+    while (isAverage && Followed.back().Place.Given().Boxes > fewest)
+        Followed.pop_back();
     if (!turn.FollowsAll)
-        KeepCheapest(turn, choices);
-    for (const Choice& choice : choices)
-        Values.Fetch((Left.Code + Catalogue.Open(choice.Place).CodeChange).Mixed());
-    return choices;
+        Followed.resize(std::min(Followed.size(), first + MostFollowed(turn)));
 }
 
-// By manner. Of lone runs that are played alike only the smallest can be best: whatever is possible
-// with one is possible with the other, provided that both players choose for the best.
-std::array<int, GiveawaySearch::Manners> GiveawaySearch::SmallestLoneRuns() const {
-    std::array<int, Manners> smallest{};
+std::size_t GiveawaySearch::MostFollowed(const Turn& turn) const {
+    if (AllRuns - Round > RunsOfWideRounds || KindOf(turn) == ComputerAverage)
+        return 1;
+    return KindOf(turn) == ComputerCheat ? CheapestOfCheatFollowed : CheapestFollowed;
+}
+
+// By manner.
+GiveawaySearch::LoneRuns GiveawaySearch::SmallestLoneRuns() const {
+    LoneRuns smallest{};
     smallest.fill(std::numeric_limits<int>::max());
     for (const Position::Share& share : Left.Shares)
         if (const Run& run = share.Of->Runs.front(); share.Of->RunCount() == 1)
             smallest.at(MannerOf(run)) = std::min(smallest.at(MannerOf(run)), run.Boxes);
     return smallest;
+}
+
+// Of lone runs that are played alike only the smallest can be best: whatever is possible with one
+// is possible with the other, provided that both players choose for the best.
+bool GiveawaySearch::IsDominated(RunPlace place, const LoneRuns& smallest) const {
+    const Run& run = place.Opened();
+    return place.Of->RunCount() == 1 && run.Boxes > smallest.at(MannerOf(run)) &&
+           !HasKind(ComputerAverage);
 }
 
 // Runs of one manner are declined in the same way; where everything is taken, all are alike.
@@ -143,102 +174,113 @@ int GiveawaySearch::MannerOf(const Run& run) const {
     return run.Boxes > 2 ? 3 : HasKind(Humanoid) ? run.Boxes : 1;
 }
 
-void GiveawaySearch::KeepCheapest(const Turn& turn, std::vector<Choice>& choices) {
-    std::size_t count = KindOf(turn) == ComputerCheat ? CheapestOfCheatFollowed : CheapestFollowed;
-    if (AllRuns - Round > RunsOfWideRounds || KindOf(turn) == ComputerAverage)
-        count = 1;
-    std::ranges::stable_sort(choices, {}, [&](const Choice& c) { return CostOf(turn, c.Place); });
-    choices.resize(std::min(choices.size(), count));
-}
-
-// What a choice seems to cost. Where a cheat leaves boxes and the turn to the giver that is little;
-// else every run that goes with the one opened, and forces nobody any more, is worth two boxes.
-int GiveawaySearch::CostOf(const Turn& turn, RunPlace place) {
-    const Giveaway& given = Catalogue.Open(place);
-    CountSteps(0); // for it may have taken long
+// What a choice seems to cost. Every run that goes with the one opened, and forces nobody any more,
+// is worth two boxes; where a cheat leaves boxes and the turn to the giver only one. An average
+// player does not think of it.
+int GiveawaySearch::CostOf(const Turn& turn, RunPlace place) const {
+    const Giveaway& given = place.Given();
+    if (KindOf(turn) == ComputerAverage)
+        return given.Boxes;
     if (OpponentKindOf(turn) != ComputerCheat)
-        return given.Boxes + 2 * given.RunChange;
-    return given.Boxes > 2 ? given.Boxes - 2 * BoxesDeclined(place.Opened()) : given.Boxes;
+        return given.Boxes - 2 * given.Joined;
+    const int declined = given.Boxes > 2 ? BoxesDeclined(place.Opened()) : 0;
+    return given.Boxes - given.Joined - 2 * declined;
 }
 
 // The row of a run, with the line in it as its player draws it.
-double GiveawaySearch::ValueOfGiveaway(const Turn& turn, RunPlace place) {
-    const Giveaway& given = place.Given();
-    const int kind = KindOf(turn);
-    const bool isPair = given.Boxes == 2;
-    if (kind == Humanoid) {
-        const double whole = ValueOfOpening(turn, place, true);
+int GiveawaySearch::ValueOfGiveaway(const Turn& turn, RunPlace place) {
+    const int behind = place.Given().Behind;
+    const bool isPair = place.Given().Boxes == 2;
+    if (KindOf(turn) == Humanoid) {
+        const int whole = ValueOfOpening(turn, place, true);
         return isPair ? std::max(whole, ValueOfOpening(turn, place, false)) : whole;
     }
-    if (isPair && kind != ComputerAverage)
+    if (isPair && KindOf(turn) != ComputerAverage)
         return ValueOfOpening(turn, place, true);
-    const double own = ValueOfAnyLine(turn, place);
-    if (given.Behind < 0)
+    const int own = ValueOfAnyLine(turn, place);
+    if (behind < 0)
         return own;
-    const RunPlace placeBehind{place.Of, given.Behind};
-    const double behind = ValueOfAnyLine(turn, placeBehind);
+    const RunPlace placeBehind{place.Of, behind};
     const int ownLines = place.Opened().LineCount();
     const int linesBehind = placeBehind.Opened().LineCount();
-    return (ownLines * own + linesBehind * behind) / (ownLines + linesBehind);
+    const auto mean = [&](std::int64_t first, std::int64_t second) {
+        return static_cast<int>((ownLines * first + linesBehind * second) /
+                                (ownLines + linesBehind));
+    };
+    const int other = ValueOfAnyLine(turn, placeBehind);
+    const auto [less, more] = std::minmax(own, other);
+    if (more <= turn.Low || less >= turn.High || (less > turn.Low && more < turn.High))
+        return mean(own, other);
+    const Turn open{turn.Level, turn.Player, turn.FollowsAll};
+    return mean(ValueOfAnyLine(open, place), ValueOfAnyLine(open, placeBehind));
 }
 
 // The mean over the lines of the run. Two boxes are left whole by one line of three.
-double GiveawaySearch::ValueOfAnyLine(const Turn& turn, RunPlace place) {
-    const double whole = ValueOfOpening(turn, place, true);
+int GiveawaySearch::ValueOfAnyLine(const Turn& turn, RunPlace place) {
     if (place.Given().Boxes != 2 || OpponentKindOf(turn) == ComputerAverage ||
         OpponentKindOf(turn) == ComputerIntelligent)
-        return whole;
-    return (whole + 2 * ValueOfOpening(turn, place, false)) / 3;
+        return ValueOfOpening(turn, place, true);
+    const Turn open{turn.Level, turn.Player, turn.FollowsAll};
+    return (ValueOfOpening(open, place, true) + 2 * ValueOfOpening(open, place, false)) / 3;
 }
 
 // `leavesPairWhole` tells, of two boxes, that the line between them was drawn, so that both must be
 // taken or neither.
-double GiveawaySearch::ValueOfOpening(const Turn& turn, RunPlace place, bool leavesPairWhole) {
-    const int given = place.Given().Boxes;
-    const bool canDecline = given > 2 || (given == 2 && !leavesPairWhole);
-    const bool mustDecline = canDecline && OpponentKindOf(turn) == ComputerCheat;
-    const bool mayDecline =
-        canDecline && OpponentKindOf(turn) == Humanoid && KindOf(turn) == ComputerCheat;
-    if (mustDecline && given > 2 && EndsTheGame(place))
-        return -given;
-    const auto valueOfTaking = [&] { return -given - ValueAfter(turn, place, 1 - turn.Player); };
-    const auto valueOfDeclining = [&] {
-        return 2 * BoxesDeclined(place.Opened()) - given + ValueAfter(turn, place, turn.Player);
+int GiveawaySearch::ValueOfOpening(const Turn& turn, RunPlace place, bool leavesPairWhole) {
+    const Giveaway& given = Catalogue.Open(place);
+    const auto valueOfTaking = [&] {
+        return ValueAfter(turn, place, -Box * given.Boxes, 1 - turn.Player);
     };
-    if (mustDecline)
-        return valueOfDeclining();
-    if (mayDecline)
-        return std::min(valueOfTaking(), valueOfDeclining());
-    return valueOfTaking();
+    const auto valueOfDeclining = [&] {
+        const int margin = 2 * BoxesDeclined(place.Opened()) - given.Boxes;
+        return ValueAfter(turn, place, Box * margin, turn.Player);
+    };
+    const bool endsTheGame = Left.Runs + given.RunChange == 0;
+    if (given.Boxes < 2 || (given.Boxes == 2 && leavesPairWhole))
+        return valueOfTaking();
+    if (OpponentKindOf(turn) == ComputerCheat)
+        return endsTheGame && given.Boxes > 2 ? valueOfTaking() : valueOfDeclining();
+    const bool mayDecline = OpponentKindOf(turn) == Humanoid && KindOf(turn) == ComputerCheat;
+    return mayDecline ? std::min(valueOfTaking(), valueOfDeclining()) : valueOfTaking();
 }
 
-bool GiveawaySearch::EndsTheGame(RunPlace place) {
-    return Left.Runs + Catalogue.Open(place).RunChange == 0;
-}
-
-// The margin for `nextPlayer`, who must give away when what was given in `turn` has been taken.
-double GiveawaySearch::ValueAfter(const Turn& turn, RunPlace place, int nextPlayer) {
-    if (EndsTheGame(place))
-        return 0;
-    const bool isExact = Left.Runs + place.Given().RunChange <= Round;
+// The margin when `gained` came of what was given in `turn` and it is `nextPlayer` who must give
+// away behind it.
+int GiveawaySearch::ValueAfter(const Turn& turn, RunPlace place, int gained, int nextPlayer) {
+    const int runsLeft = Left.Runs + place.Given().RunChange;
+    if (runsLeft == 0)
+        return gained;
+    const bool isExact = runsLeft <= Round;
     const bool isReply = turn.Level == 0 && nextPlayer == 1 && Kinds[0] != ComputerCheat;
-    const bool followsAll = isExact || (isReply && Round >= FirstRoundOfAllReplies);
+    Turn next{turn.Level + 1, nextPlayer, isExact || (isReply && Round >= FirstRoundOfAllReplies)};
+    const int sign = nextPlayer == turn.Player ? 1 : -1;
+    if (KindOf(next) != ComputerAverage) {
+        next.Low = sign * ((sign > 0 ? turn.Low : turn.High) - gained);
+        next.High = sign * ((sign > 0 ? turn.High : turn.Low) - gained);
+    }
     // Exact values serve every round, others only their own.
-    const std::uint32_t kind = 4U * (isExact ? 0 : Round) + 2U * followsAll + nextPlayer;
-    const std::uint64_t code = (Left.Code + place.Given().CodeChange).Mixed();
-    if (const float* known = Values.Find(code, kind))
-        return *known;
+    const std::uint32_t kind = 4U * (isExact ? 0 : Round) + 2U * next.FollowsAll + nextPlayer;
+    const std::uint64_t code = Left.Code + place.Given().CodeChange;
+    Bounds known = Values.At(code, kind);
+    if (known.Low >= next.High || known.Low == known.High)
+        return gained + sign * known.Low;
+    if (known.High <= next.Low)
+        return gained + sign * known.High;
     Left.Open(place, 1);
-    CountSteps(1 + static_cast<long>(Left.Shares.size()) / KindsOfPiecesPerStep);
-    const double value = ValueOf({turn.Level + 1, nextPlayer, followsAll});
+    CountSteps(1 + Left.Runs / ChoicesPerStep);
+    const int value = ValueOf(next);
     Left.Open(place, -1);
-    Values.Store(code, kind, value);
-    return value;
+    if (value > next.Low)
+        known.Low = value;
+    if (value < next.High)
+        known.High = value;
+    Values.At(code, kind) = known;
+    return gained + sign * value;
 }
 
 void GiveawaySearch::CountSteps(long steps) {
     const long before = StepsLeft;
-    StepsLeft -= steps + Catalogue.TakeSteps() / RunsPerStep;
+    StepsLeft -= steps + Catalogue.TakeSteps() / RunsEnteredPerStep;
     if (before / StepsBetweenYields != StepsLeft / StepsBetweenYields) {
         YieldToEvents(0);
         if (Game.ProgramEnding || Game.QuitRequested)

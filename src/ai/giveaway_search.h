@@ -3,7 +3,6 @@
 
 #include <array>
 #include <cstdint>
-#include <limits>
 #include <vector>
 
 #include "ai/pieces.h"
@@ -22,7 +21,7 @@ struct Position {
     void Open(RunPlace place, int times);
 
     std::vector<Share> Shares; // in the order of the pieces' numbers
-    SetCode Code;
+    std::uint64_t Code = 0;    // the sum of theirs
     int Runs = 0;
 };
 
@@ -30,55 +29,65 @@ struct Position {
 struct Choice {
     RunPlace Place;
     int Count = 0; // so many rows are alike
+    int Rank = 0;  // the cheapest first, no two alike
 };
 
 // Judges in rounds. Round n follows everything once n runs or fewer are left, and before that only
 // the cheapest choices. What it has judged exactly serves the rounds behind it.
 class GiveawaySearch {
 public:
-    // A step is a position set up, worth about half a microsecond. Half of them has sufficed for
-    // every round up to twenty-four runs, and all of them up to twenty-six.
-    static constexpr long UsualSteps = 1'700'000;
+    // A step is a position set up, about half a microsecond. Runs to look through and to enter into
+    // the catalogue count likewise, so that they bound time and memory on every field.
+    static constexpr long UsualSteps = 1'200'000;
 
-    static constexpr double Unjudged = std::numeric_limits<double>::lowest();
+    // Margins count in parts of a box, and means are cut to whole ones: every processor comes to
+    // the same.
+    static constexpr int Box = 1 << 16;
+    static constexpr int SameAs = Box / 1000; // margins this near to each other are equal
+    static constexpr int Unjudged = -(1 << 30);
 
     // For a player of kind `mover`, one of the stronger computers, who must give away.
     GiveawaySearch(int mover, int opponent, long steps = UsualSteps);
 
     // The margin still to come for each of the `candidates`, positions in `runs`, when its row is
-    // the choice, by the last round begun: exact if none is left. It judges the best first; what
-    // the steps end before is `Unjudged`. Yields; once the game is to end margins mean little.
-    std::vector<double> Judge(const std::vector<Run>& runs, const std::vector<int>& candidates);
+    // the choice, by the last round begun: exact if none is left and no other row is better, else
+    // no less than it is. It judges the best first; what the steps end before is `Unjudged`.
+    // Yields; once the game is to end margins mean little.
+    std::vector<int> Judge(const std::vector<Run>& runs, const std::vector<int>& candidates);
 
 private:
     static constexpr int Manners = 4; // in which a lone run may be played
+    using LoneRuns = std::array<int, Manners>;
 
     // Thrown when the steps are used up or the game is to end.
     struct Interruption {};
 
-    // Somebody's turn to give away.
+    // Somebody's turn to give away. A margin outside of `Low` and `High` is of no account: it may
+    // come out as any on the same side.
     struct Turn {
         int Level = 0;  // turns before it
         int Player = 0; // 0 = the one the search is for, 1 = the opponent
         bool FollowsAll = true;
+        int Low = Unjudged;
+        int High = -Unjudged;
     };
 
     bool HasKind(int kind) const { return Kinds[0] == kind || Kinds[1] == kind; }
     int KindOf(const Turn& turn) const { return Kinds.at(turn.Player); }
     int OpponentKindOf(const Turn& turn) const { return Kinds.at(1 - turn.Player); }
 
-    double ValueOf(const Turn& turn);
-    std::vector<Choice> ChoicesOf(const Turn& turn);
-    std::array<int, Manners> SmallestLoneRuns() const;
+    int ValueOf(Turn turn);
+    void FollowChoices(const Turn& turn);
+    std::size_t MostFollowed(const Turn& turn) const;
+    LoneRuns SmallestLoneRuns() const;
+    bool IsDominated(RunPlace place, const LoneRuns& smallest) const;
     int MannerOf(const Run& run) const;
-    void KeepCheapest(const Turn& turn, std::vector<Choice>& choices);
-    int CostOf(const Turn& turn, RunPlace place);
+    int CostOf(const Turn& turn, RunPlace place) const;
 
-    double ValueOfGiveaway(const Turn& turn, RunPlace place);
-    double ValueOfAnyLine(const Turn& turn, RunPlace place);
-    double ValueOfOpening(const Turn& turn, RunPlace place, bool leavesPairWhole);
-    bool EndsTheGame(RunPlace place);
-    double ValueAfter(const Turn& turn, RunPlace place, int nextPlayer);
+    int ValueOfGiveaway(const Turn& turn, RunPlace place);
+    int ValueOfAnyLine(const Turn& turn, RunPlace place);
+    int ValueOfOpening(const Turn& turn, RunPlace place, bool leavesPairWhole);
+    int ValueAfter(const Turn& turn, RunPlace place, int gained, int nextPlayer);
     void CountSteps(long steps);
 
     std::array<int, 2> Kinds;
@@ -86,6 +95,7 @@ private:
     int Round = 0;
     PieceCatalogue Catalogue;
     Position Left;
+    std::vector<Choice> Followed; // of each turn up to the last
     ValueMemory Values;
     long StepsLeft;
 };

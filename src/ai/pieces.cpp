@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <numeric>
 
+#include "base/random.h"
+
 namespace {
 
 int JointCount(const std::vector<Run>& runs) {
@@ -99,19 +101,13 @@ std::vector<std::vector<int>> MembersOfPieces(const std::vector<Run>& runs) {
     return pieces;
 }
 
-std::uint64_t MixSignature(std::uint64_t signature) {
-    signature = (signature ^ (signature >> 30U)) * 0xBF58476D1CE4E5B9U;
-    signature = (signature ^ (signature >> 27U)) * 0x94D049BB133111EBU;
-    return signature ^ (signature >> 31U);
-}
-
 // What a run adds to the signature of the joint at its end `side`.
 std::uint64_t SignatureOf(const Run& run, int side, const std::vector<std::uint64_t>& signatures) {
     const int joint = run.Ends.at(side);
     const int far = run.Ends.at(1 - side);
     const std::uint64_t beyond = far > 0 ? signatures.at(far) : 0;
     const std::uint64_t shape = std::uint64_t{2} * run.Boxes + (far == joint ? 1 : 0);
-    return MixSignature(beyond * 1024 + shape);
+    return MixBits(beyond * 1024 + shape);
 }
 
 // For each joint what it looks like from near by; 0 for the joint number 0, which is none.
@@ -173,19 +169,23 @@ struct NormalForm {
 // A run from a joint back to it takes the joint with it if a single other run meets it there, and
 // then that run as well.
 std::vector<Giveaway> FindGiveaways(const std::vector<Run>& runs) {
+    std::vector<int> ways(static_cast<std::size_t>(JointCount(runs)) + 1, 0);
+    std::vector<int> other(ways.size(), -1); // the last run that comes from somewhere else
+    for (std::size_t i = 0; i < runs.size(); ++i)
+        for (const int end : runs.at(i).Ends)
+            if (end > 0) {
+                ++ways.at(end);
+                if (runs.at(i).Ends[0] != runs.at(i).Ends[1])
+                    other.at(end) = static_cast<int>(i);
+            }
     std::vector<Giveaway> giveaways;
     for (const Run& run : runs) {
         Giveaway& given = giveaways.emplace_back();
         given.Boxes = ToInteger(run.Boxes);
-        if (run.Ends[0] <= 0 || run.Ends[0] != run.Ends[1])
-            continue;
-        std::vector<int> endsThere;
-        for (std::size_t i = 0; i < runs.size(); ++i)
-            for (const int end : runs.at(i).Ends)
-                if (end == run.Ends[0] && &runs.at(i) != &run)
-                    endsThere.push_back(static_cast<int>(i));
-        if (endsThere.size() == 1) {
-            given.Behind = ToInteger(endsThere.front());
+        for (const int end : run.Ends)
+            given.Joined = ToInteger(given.Joined + (end > 0 && ways.at(end) == 3 ? 1 : 0));
+        if (given.Joined == 2 && run.Ends[0] == run.Ends[1]) {
+            given.Behind = ToInteger(other.at(run.Ends[0]));
             given.Boxes = ToInteger(run.Boxes + 1 + runs.at(given.Behind).Boxes);
         }
     }
@@ -223,8 +223,7 @@ Piece& PieceCatalogue::Intern(const std::vector<Run>& runs) {
         known->Runs = runs;
         known->Giveaways = FindGiveaways(runs);
         known->Number = static_cast<int>(Pieces.size());
-        const std::uint64_t random = MixSignature(known->Number * 0x9E3779B97F4A7C15U);
-        (LoneTwinsCancel && runs.size() == 1 ? known->Code.Odd : known->Code.Sum) = random;
+        known->Code = MixBits(Pieces.size());
     }
     return *known;
 }
@@ -241,7 +240,7 @@ const Giveaway& PieceCatalogue::Open(RunPlace place) {
     for (const RunPlace& left : Enter(runsLeft))
         if (left.Position == 0) {
             given.Rest.at(rests++) = left.Of;
-            given.CodeChange = given.CodeChange + left.Of->Code;
+            given.CodeChange += left.Of->Code;
         }
     StepsDone += piece.RunCount();
     return given;

@@ -28,22 +28,13 @@ struct Run {
 
 struct Piece;
 
-// The random codes of a set of pieces, taken together: `Odd` forgets whatever is there twice.
-struct SetCode {
-    std::uint64_t Sum = 0;
-    std::uint64_t Odd = 0;
-
-    SetCode operator+(const SetCode& other) const { return {Sum + other.Sum, Odd ^ other.Odd}; }
-    SetCode operator-() const { return {-Sum, Odd}; }
-    std::uint64_t Mixed() const { return Sum ^ Odd; }
-};
-
 // One run of a piece as something to give away. Small, for a search goes through millions.
 struct Giveaway {
     Integer Boxes = 0;            // what the opponent may take
     Integer Behind = -1;          // the run that falls with this one, -1 = none
+    Integer Joined = 0;           // other runs that seem to go when it is opened
     Integer RunChange = 0;        // from the piece to what is left of it, 0 = not opened yet
-    SetCode CodeChange;           // likewise
+    std::uint64_t CodeChange = 0; // likewise
     std::array<Piece*, 2> Rest{}; // likewise: a piece at each end of what was taken, or null
 };
 
@@ -51,7 +42,7 @@ struct Piece {
     std::vector<Run> Runs;
     std::vector<Giveaway> Giveaways; // one for each run
     int Number = 0;                  // in the order in which the pieces were met
-    SetCode Code;
+    std::uint64_t Code = 0;          // random
 
     int RunCount() const { return static_cast<int>(Runs.size()); }
 };
@@ -68,9 +59,6 @@ struct RunPlace {
 // Every piece met so far, each shape once.
 class PieceCatalogue {
 public:
-    // `loneTwinsCancel` tells that two equal runs, each a piece of its own, are worth nothing.
-    explicit PieceCatalogue(bool loneTwinsCancel) : LoneTwinsCancel(loneTwinsCancel) {}
-
     // Enters the pieces that `runs` fall into. Tells where each run stands.
     std::vector<RunPlace> Enter(const std::vector<Run>& runs);
 
@@ -83,7 +71,6 @@ public:
 private:
     Piece& Intern(const std::vector<Run>& runs);
 
-    bool LoneTwinsCancel;
     std::deque<Piece> Pieces;
     std::unordered_map<std::u16string, Piece*> Known;
     long StepsDone = 0;

@@ -1,7 +1,9 @@
 #include "ai/sacrifice.h"
 
 #include <algorithm>
+#include <vector>
 
+#include "ai/board_runs.h"
 #include "ai/capture.h"
 #include "ai/chain_tracing.h"
 #include "ai/deep_sacrifice.h"
@@ -10,67 +12,26 @@
 #include "core/rules/pacing.h"
 #include "core/state/game_state.h"
 #include "core/state/work_lists.h"
-#include "platform/desktop.h"
 
 namespace {
 
-// Sorts behind every real size.
-Integer NoCandidate() {
-    return ToInteger(Game.BoxCount + 1);
-}
-
-// Lets the window answer in between, however long the chains are that were traced.
-void YieldAfterTracing(int& boxesTraced) {
-    constexpr int boxesBetweenYields = 200'000;
-    boxesTraced += Work.ChainBoxes.Count();
-    if (boxesTraced < boxesBetweenYields)
-        return;
-    boxesTraced = 0;
-    YieldToEvents(0);
-}
-
-void SizeRiskyLines() {
-    int boxesTraced = 0;
-    for (RiskyLine& risky : Work.RiskyLines) {
-        TraceChain(risky.Line);
-        risky.Size = Work.ChainBoxes.Count() > 0 ? Work.ChainBoxes.Count() : NoCandidate();
-        YieldAfterTracing(boxesTraced);
-    }
-}
-
-// The row of `line` behind `row`, 0 = none. Before they are sorted by size the rows stand in the
-// order of their lines.
-int FindRowBehind(int row, int line) {
-    const auto found =
-        std::lower_bound(Work.RiskyLines.begin() + row, Work.RiskyLines.end(), line,
-                         [](const RiskyLine& risky, int wanted) { return risky.Line < wanted; });
-    if (found == Work.RiskyLines.end() || found->Line != line)
-        return 0;
-    return static_cast<int>(found - Work.RiskyLines.begin()) + 1;
-}
-
+// Keeps the first line of every run and sizes it. No line is safe and no box has three sides, so
+// each line left belongs to a run, and all lines of a run open the same giveaway.
 void KeepOneLinePerGiveaway() {
-    int boxesTraced = 0;
-    for (int row = 1; row < Work.RiskyLines.Count(); ++row) {
-        const RiskyLine kept = Work.RiskyLines.at(row);
-        if (kept.Size == NoCandidate())
+    const BoardRuns board = FindBoardRuns();
+    std::vector<bool> isKept(board.Runs.size(), false);
+    int kept = 0;
+    for (const RiskyLine risky : Work.RiskyLines) {
+        const int run = board.RunOfLine.at(risky.Line);
+        if (isKept.at(run))
             continue;
-        GatherGiveaway(kept.Line);
-        for (const Integer line : Work.ChainLines) {
-            const int other = FindRowBehind(row, line);
-            if (other != 0 && Work.RiskyLines.at(other).Size == kept.Size)
-                Work.RiskyLines.at(other).Size = NoCandidate();
-        }
-        YieldAfterTracing(boxesTraced);
+        isKept.at(run) = true;
+        TraceChain(risky.Line);
+        Work.RiskyLines.at(++kept) = {risky.Line, Work.ChainBoxes.Count()};
     }
-}
-
-void SortAndDropNoCandidates() {
+    Work.RiskyLines.Shorten(ToInteger(kept));
     std::stable_sort(Work.RiskyLines.begin(), Work.RiskyLines.end(),
                      [](const RiskyLine& a, const RiskyLine& b) { return a.Size < b.Size; });
-    const auto behind = std::find_if(Work.RiskyLines.begin(), Work.RiskyLines.end(),
-                                     [](const RiskyLine& r) { return r.Size == NoCandidate(); });
-    Work.RiskyLines.Shorten(ToInteger(static_cast<int>(behind - Work.RiskyLines.begin())));
 }
 
 // Chooses at random among the smallest giveaways.
@@ -87,9 +48,7 @@ void ChooseSmallestGiveaway() {
 void ChooseSacrifice() {
     if (!Game.HintMode)
         Delay(CapturePause);
-    SizeRiskyLines();
     KeepOneLinePerGiveaway();
-    SortAndDropNoCandidates();
     if (KindOf(Game.CurrentPlayer).ChoosesDeeply)
         ChooseSacrificeDeep();
     else

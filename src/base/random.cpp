@@ -9,16 +9,19 @@ std::uint64_t generatorState = 0;
 // SplitMix64: a counter stepped by the golden ratio, then mixed.
 std::uint64_t NextBits() {
     generatorState += 0x9E3779B97F4A7C15U;
-    std::uint64_t bits = generatorState;
-    bits = (bits ^ (bits >> 30U)) * 0xBF58476D1CE4E5B9U;
-    bits = (bits ^ (bits >> 27U)) * 0x94D049BB133111EBU;
-    return bits ^ (bits >> 31U);
+    return MixBits(generatorState);
 }
 
 } // namespace
 
 void SeedRandom(std::uint64_t seed) {
     generatorState = seed;
+}
+
+std::uint64_t MixBits(std::uint64_t bits) {
+    bits = (bits ^ (bits >> 30U)) * 0xBF58476D1CE4E5B9U;
+    bits = (bits ^ (bits >> 27U)) * 0x94D049BB133111EBU;
+    return bits ^ (bits >> 31U);
 }
 
 float RandomUniform() {

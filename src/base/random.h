@@ -7,6 +7,9 @@
 
 void SeedRandom(std::uint64_t seed);
 
+// Bits that look random and depend on every bit of those given.
+std::uint64_t MixBits(std::uint64_t bits);
+
 // Uniform in [0, 1), in steps of 2 to the -24.
 float RandomUniform();
 
