@@ -12,7 +12,8 @@
 
 namespace {
 
-FILE* monitor = nullptr; // what the newest server plays
+FILE* server = nullptr;  // the newest, which ends with the test
+FILE* monitor = nullptr; // what it plays
 
 void Do(std::initializer_list<WaveCommand> commands) {
     const auto start = std::chrono::steady_clock::now();
@@ -29,9 +30,12 @@ void Play(const std::string& tone) {
 const auto Shell = [](const char* command) { EXPECT_EQ(std::system(command), 0) << command; };
 
 void StartServer() {
-    Shell("DBUS_SESSION_BUS_ADDRESS=disabled: " SOUND_SERVER " -n --daemonize --log-level=error"
-          " --exit-idle-time=30 -L 'module-null-sink sink_name=null'"
-          " -L 'module-native-protocol-unix auth-anonymous=1 socket='$PWD/server");
+    server = popen("DBUS_SESSION_BUS_ADDRESS=disabled: exec setpriv --pdeathsig KILL " SOUND_SERVER
+                   " -n --log-level=error --exit-idle-time=30"
+                   " -L 'module-null-sink sink_name=null'"
+                   " -L 'module-native-protocol-unix auth-anonymous=1 socket='$PWD/server",
+                   "r");
+    Shell("until pactl info >/dev/null 2>&1; do sleep .01; done");
     monitor = popen("exec parec -d null.monitor --raw --latency-msec=20 2>/dev/null", "r");
 }
 
