@@ -15,6 +15,7 @@
 namespace {
 
 constexpr QSize InitialSize(620, 460); // pixels, of a document that is not enlarged
+constexpr int Narrowest = 320;
 constexpr QSize RoomForFrame(40, 60);
 
 RichText ReadDocument(const char* name) {
@@ -37,6 +38,8 @@ HelpViewer::HelpViewer(QWidget* parent) : PlacedDialog(parent), rtfHelp(new QTex
 }
 
 void HelpViewer::OpenOrRaise() {
+    if (!isVisible() && !HasPlace())
+        PlaceBeside(*this, *parentWidget(), static_cast<int>(Narrowest * Enlargement()));
     ShowAndRaise(); // first: else the text is laid out for hardly any width before it is for this
     Form_Load();
 }

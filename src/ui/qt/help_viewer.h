@@ -12,7 +12,7 @@ public:
     explicit HelpViewer(QWidget* parent);
 
     // Loads the document that `ShowHistory` asks for and raises the viewer. A missing document
-    // leaves it empty.
+    // leaves it empty. First it comes up beside the game, so that one can read and play.
     void OpenOrRaise();
 
 private:

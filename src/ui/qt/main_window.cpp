@@ -270,6 +270,13 @@ void MainWindow::FollowScreens() {
     connect(qGuiApp, &QGuiApplication::screenRemoved, this, keep, Qt::QueuedConnection);
 }
 
+QList<QAction*> MainWindow::KeysBesideText() const {
+    QList<QAction*> actions(Actions.begin(), Actions.end());
+    actions.removeOne(ActionOf(Command::Auto)); // Ctrl+A
+    actions.removeOne(ActionOf(Command::Exit)); // Ctrl+X
+    return actions;
+}
+
 QSize MainWindow::SizeAround(int pictureSpacings) const {
     const int picture = pictureSpacings * PixelsBetweenPoints;
     return {fraStatistics->width() + ToPixels(FrameMargin, Game.TwipsPerPixelX),
@@ -337,6 +344,7 @@ void MainWindow::ShowForm(Form form) {
     case Form::DefinePlayers:
         return OpenOrRaise(frmDefinePlayers, this);
     case Form::Help:
-        return OpenOrRaise(frmHelp, this);
+        OpenOrRaise(frmHelp, this);
+        return frmHelp->addActions(KeysBesideText());
     }
 }

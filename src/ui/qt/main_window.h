@@ -45,6 +45,9 @@ private:
     QAction* AddCommand(QMenu* menu, Command command, const char* objectName, const char* caption,
                         const char* shortcut);
     QAction* ActionOf(Command command) const;
+    // The commands whose keys mean nothing else to who reads: in a text Ctrl+A selects all, and
+    // Ctrl+X must not end the program.
+    QList<QAction*> KeysBesideText() const;
 
     void Place(WindowPlace place);
     // Now that the desktop has put a title bar and borders around the window.

@@ -29,6 +29,19 @@ bool KeepOnScreen(QWidget& window) {
     return true;
 }
 
+void PlaceBeside(QWidget& window, const QWidget& other, int narrowest) {
+    const QRect area = other.screen()->availableGeometry();
+    const QRect frame = other.frameGeometry(), inside = other.geometry();
+    const int border = inside.left() - frame.left(); // of the other one; its own will be the same
+    const int left = frame.left() - area.left(), right = area.right() - frame.right();
+    const int room = std::max(left, right) - 2 * border;
+    if (room < narrowest)
+        return;
+    const QSize size(std::min(window.width(), room), std::max(window.height(), inside.height()));
+    const int x = right >= left ? frame.right() + 1 + border : frame.left() - border - size.width();
+    window.setGeometry(QRect({x, inside.top()}, size));
+}
+
 void PlacedDialog::ShowAndRaise() {
     if (!isVisible() && LastPlace) {
         setGeometry(QRect(*LastPlace, size()));

@@ -12,6 +12,10 @@ void CentreOnScreen(QWidget& window);
 // larger. False while the desktop keeps it in another way, or the screen is being changed.
 bool KeepOnScreen(QWidget& window);
 
+// For a window that is not shown yet: beside another one and as high, where the screen has room for
+// it at its width or at least at the narrowest. Else nothing happens.
+void PlaceBeside(QWidget& window, const QWidget& other, int narrowest);
+
 // Comes up where it was closed.
 class PlacedDialog : public QDialog {
     Q_OBJECT
@@ -23,6 +27,7 @@ protected:
     using QDialog::QDialog;
 
     void ShowAndRaise();
+    bool HasPlace() const { return LastPlace.has_value(); }
 
 private:
     // Inside its title bar and borders, which a hidden window has not.
