@@ -70,7 +70,7 @@ int Tell(const char* text) {
 }
 
 // The exit status of a call that asks for no game. A game is asked for by nothing, or by a path.
-std::optional<int> AnswerArguments(int argc, char* argv[]) {
+std::optional<int> AnswerArguments(int argc, char** argv) {
     if (argc < 2)
         return std::nullopt;
     const std::string_view argument = argc == 2 ? argv[1] : "";
