@@ -12,6 +12,7 @@
 #include "display/safe_lines.h"
 #include "fuzz/target.h"
 #include "storage/saved_game.h"
+#include "storage/value_file.h"
 #include "support/anything.h"
 #include "support/board.h"
 #include "support/files.h"
@@ -29,6 +30,7 @@ void StartAgain() {
         return std::pair(Game, frmQuibsMain);
     }();
     std::tie(Game, frmQuibsMain) = start;
+    CloseChannel();
     ResetNullDesktop();
     SeedRandom(1);
 }
