@@ -11,11 +11,12 @@ namespace {
 class DisplayTest : public GameTest {};
 
 TEST_F(DisplayTest, ShowsNumbersRightAlignedInFiveCharacters) {
-    EXPECT_EQ(PanelTexts(), "Colossus:     0     Intelligent|Guardian:     0     Average||");
+    EXPECT_EQ(TextsOf(frmQuibsMain),
+              "Colossus:     0     Intelligent|Guardian:     0     Average||");
     EXPECT_EQ(frmQuibsMain.shpPlayer2Status.FillColor, BrightWhite);
     SetUpGame(10, 10, ComputerAverage, ComputerCheat);
-    EXPECT_EQ(PanelTexts(), "Colossus:     0     Average|Guardian:     0     Cheat|"
-                            "Boxes:     0 of   100|Lines:     0 of   220");
+    EXPECT_EQ(TextsOf(frmQuibsMain), "Colossus:     0     Average|Guardian:     0     Cheat|"
+                                     "Boxes:     0 of   100|Lines:     0 of   220");
     Game.PlayerName.at(2) = "<b>Bo</b>";
     Game.PlayerScore.at(2) = 32767;
     ShowPlayerStatus(2);
@@ -32,7 +33,7 @@ TEST_F(DisplayTest, TakesWhatTheDialogsChoose) {
                                  .PlayerColor = {{LightRed, LightGreen}}};
     SetPlayers(players);
     EXPECT_TRUE(Game.SettingsChanged && static_cast<PlayerSettings&>(Game) == players);
-    EXPECT_EQ(PanelTexts(), "Ada:     0     Humanoid|Bo:     0     Cheat||");
+    EXPECT_EQ(TextsOf(frmQuibsMain), "Ada:     0     Humanoid|Bo:     0     Cheat||");
     EXPECT_EQ(frmQuibsMain.shpPlayer2Status.FillColor, LightGreen);
     Game.SettingsChanged = false;
     const GridSettings grid{3, 2, LightRed, LightGreen, BrightWhite, Black};

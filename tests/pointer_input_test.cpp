@@ -1,8 +1,6 @@
 // How the pointer on the field becomes a line.
 #include "core/play/pointer_input.h"
 
-#include <set>
-
 #include "support/game_test.h"
 #include "support/person.h"
 #include "ui/commands.h"
@@ -29,17 +27,6 @@ protected:
     static void PressKeys(const std::string& keys) {
         for (const char key : keys)
             picPlayingField_KeyDown(static_cast<FieldKey>(std::string("LURDT").find(key)));
-    }
-
-    // Gathers what any keys lead to.
-    static void Reach(int line, std::set<int>& reached) {
-        if (!reached.insert(line).second)
-            return;
-        for (const char key : std::string("LURDT")) {
-            Game.GhostLine = ToInteger(line);
-            PressKeys({key});
-            Reach(Game.GhostLine, reached);
-        }
     }
 
     static Drawing Last() { return TheNullDesktop.Drawings.back(); }
@@ -159,6 +146,7 @@ TEST_F(Pointer, IsNotNeededWhereThereAreKeys) {
         {{}, "TTTDDTTR", {5, 13, 5, 8, 8, 13, 5, 6}},
         {{2, 5}, "LULRD", {4, 1, 1, 3, 6}},          // straight on over what is drawn
         {{6, 14}, "RRTLLD", {5, 3, 16, 12, 10, 11}}, // else to the nearest
+        {{2, 3, 4, 5}, "RUD", {6, 1, 6}},            // past no row that no column shares
         {{10, 11, 12, 13, 14, 15, 16, 17, 5}, "TT", {2, 2}},
         {{1, 2, 3, 4, 5, 6, 7, 8, 9, 12}, "TT", {13, 13}},
     };
@@ -189,21 +177,6 @@ TEST_F(Pointer, AndKeysTakeOverFromEachOther) {
     PressKeys("D");
     picPlayingField_KeyDown(FieldKey::Draw);
     EXPECT_TRUE(Game.ChosenLine == 7 && Game.ComputerGhostLine == 0);
-}
-
-TEST_F(Pointer, IsNotNeededForAnyLineOfAField) {
-    const GameState empty = Game;
-    for (int board = 1; board < 1 << Game.HorizontalLineCount; ++board) {
-        Game = empty;
-        for (int line = 1; line <= Game.LineCount; ++line)
-            if ((board >> (line - 1)) % 2 == 0)
-                DrawForNobody({line});
-        for (const int start : UndrawnLines()) {
-            std::set<int> reached;
-            Reach(start, reached);
-            ASSERT_EQ(reached.size(), UndrawnLines().size()) << board << ", " << start;
-        }
-    }
 }
 
 } // namespace

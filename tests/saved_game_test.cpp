@@ -53,8 +53,9 @@ TEST_F(SavedGame, IsShownPausedAndCentredWhereItFits) {
     EXPECT_EQ(Game.Lines.at(6), (Line{6, 188 + 375, 188, 1, 2}));
     EXPECT_EQ(frmQuibsMain.lblPlayer1Active.Caption, "Jos\u00e9 \"Pepe\"'s Turn");
     EXPECT_EQ(frmQuibsMain.lblPlayer2Active.Caption, "GAME PAUSED");
-    EXPECT_EQ(PanelTexts(), "Jos\u00e9 \"Pepe\":     1     Humanoid|Computer:     0     Average|"
-                            "Boxes:     1 of     2|Lines:     4 of     7");
+    EXPECT_EQ(TextsOf(frmQuibsMain),
+              "Jos\u00e9 \"Pepe\":     1     Humanoid|Computer:     0     Average|"
+              "Boxes:     1 of     2|Lines:     4 of     7");
     EXPECT_TRUE(Game.GamePaused && IsEnabled(Command::Exchange) && Game.GridColumns == 2);
     OpenGame(OneBox);
     EXPECT_EQ(Game.BoxCount, 2) << "a game was opened over one that waits to be started";

@@ -56,8 +56,8 @@ void ExpectGivenUp() {
     EXPECT_EQ(Game.GhostLine + Game.ComputerGhostLine + Game.ChosenLine + Game.LastLine, 0);
     EXPECT_EQ(VisibleMarkers(), 0);
     EXPECT_EQ(Captions(), "|");
-    EXPECT_EQ(PanelTexts().substr(PanelTexts().size() - 2), "||");
-    EXPECT_EQ(PanelTexts().find("of an old game"), std::string::npos);
+    EXPECT_EQ(TextsOf(frmQuibsMain).substr(TextsOf(frmQuibsMain).size() - 2), "||");
+    EXPECT_EQ(TextsOf(frmQuibsMain).find("of an old game"), std::string::npos);
     EXPECT_TRUE(TheNullDesktop.Drawings.empty());
 }
 

@@ -39,29 +39,20 @@ bool BoardIsSound() {
     return sound == Game;
 }
 
-std::string PanelTexts() {
-    const MainWindowControls& form = frmQuibsMain;
+std::string TextsOf(const MainWindowControls& form) {
     return form.txtPlayer1Status.Text + "|" + form.txtPlayer2Status.Text + "|" +
            form.txtBoxesStatus.Text + "|" + form.txtLinesStatus.Text;
 }
 
 void PrintTo(const MainWindowControls& form, std::ostream* out) {
-    *out << form.txtPlayer1Status.Text << "|" << form.txtPlayer2Status.Text << "|"
-         << form.txtBoxesStatus.Text << "|" << form.txtLinesStatus.Text << "|"
-         << form.lblPlayer1Active.Caption << "|" << form.lblPlayer2Active.Caption
-         << ", marked player " << form.fraStatistics.MarkedPlayer << ", background "
-         << form.picPlayingField.BackColor << ", pointer "
-         << static_cast<int>(form.picPlayingField.MousePointer);
-    for (const auto& [name, shape] : {std::pair("Player1Status", form.shpPlayer1Status),
-                                      {"Player2Status", form.shpPlayer2Status},
-                                      {"Player1Active", form.shpPlayer1Active},
-                                      {"Player2Active", form.shpPlayer2Active},
-                                      {"Player3Active", form.shpPlayer3Active},
-                                      {"Player4Active", form.shpPlayer4Active}})
-        *out << ", shp" << name << (shape.Visible ? " visible " : " hidden ") << shape.FillColor;
-    for (std::size_t command = 0; command < CommandCount; ++command)
-        *out << ", command " << command << (form.Commands.at(command).Enabled ? " on" : " off")
-             << (form.Commands.at(command).Checked ? " checked" : "");
+    *out << TextsOf(form) << "|" << form.lblPlayer1Active.Caption << "|"
+         << form.lblPlayer2Active.Caption;
+    for (const auto& shape : {form.shpPlayer1Active, form.shpPlayer2Active, form.shpPlayer3Active,
+                              form.shpPlayer4Active, form.shpPlayer1Status, form.shpPlayer2Status})
+        *out << (shape.Visible ? ", shape " : ", hidden shape ") << shape.FillColor;
+    for (const CommandState& command : form.Commands)
+        *out << ", command " << &command - form.Commands.data() << (command.Enabled ? " on" : "")
+             << (command.Checked ? " checked" : "");
 }
 
 void SetUpGame(int columns, int rows, Integer firstKind, Integer secondKind) {

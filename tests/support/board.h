@@ -17,7 +17,7 @@ void SetUpGame(int columns, int rows, Integer firstKind, Integer secondKind);
 void PrintTo(const MainWindowControls& form, std::ostream* out);
 
 // What the status panel tells of both players, of the boxes and of the lines.
-std::string PanelTexts();
+std::string TextsOf(const MainWindowControls& form);
 
 // Draws lines for nobody: sides count, complete boxes go to player 1.
 void DrawForNobody(const std::vector<int>& lines);
