@@ -27,7 +27,12 @@ void Play(const std::string& tone) {
     Do({WaveCommand::Open, WaveCommand::Play});
 }
 
-const auto Shell = [](const char* command) { EXPECT_EQ(std::system(command), 0) << command; };
+const auto Shell = [](const char* command) {
+    const int status = std::system(command);
+    if (WIFSIGNALED(status))
+        std::raise(WTERMSIG(status)); // Ctrl+C, which does not reach who waits for a command
+    EXPECT_EQ(status, 0) << command;
+};
 
 void StartServer() {
     server = popen("DBUS_SESSION_BUS_ADDRESS=disabled: exec setpriv --pdeathsig KILL " SOUND_SERVER
