@@ -43,7 +43,7 @@ std::string FollowLinks(std::filesystem::path name) {
 // The system does not follow the links that others leave in a directory for all: who follows them
 // by hand writes where they want.
 bool IsForbiddenLink(const std::string& name) {
-    struct stat status {};
+    struct stat status = {};
     std::error_code unreachable;
     return stat(name.c_str(), &status) != 0 && errno != ENOENT &&
            std::filesystem::is_symlink(name, unreachable);
