@@ -227,8 +227,9 @@ TEST_F(RealWindow, NeedsNoPointerForAWholeGameItsDialogsAndItsFiles) {
 }
 
 TEST_F(RealWindow, ForgetsNothingOfTheBoardAndStaysOnTheScreenWhenBothBecomeSmaller) {
+    Use("ctrl+x", "Exit the Game", "Escape"); // until then a new window may take a size of its own
+    ResizeWindow({900, 700});
     Use("ctrl+r", "Define Playing Grid", "End Tab 4 Return");
-    ResizeWindow({900, 700}); // not at once: a new window still takes a size of its own
     StartGame("ctrl+d", 34, 4);
     const QPoint farAcross = Field.Points.at(22) - FocusedArea().topLeft();
     for (const int width : {560, 600}) { // neither shows the whole field, the second more of it
