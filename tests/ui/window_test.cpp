@@ -227,7 +227,6 @@ TEST_F(RealWindow, NeedsNoPointerForAWholeGameItsDialogsAndItsFiles) {
 }
 
 TEST_F(RealWindow, ForgetsNothingOfTheBoardAndStaysOnTheScreenWhenBothBecomeSmaller) {
-    Use("ctrl+x", "Exit the Game", "Escape"); // until then a new window may take a size of its own
     ResizeWindow({900, 700});
     Use("ctrl+r", "Define Playing Grid", "End Tab 4 Return");
     StartGame("ctrl+d", 34, 4);
