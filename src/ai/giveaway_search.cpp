@@ -51,7 +51,7 @@ void Position::Open(RunPlace place, int times) {
 }
 
 GiveawaySearch::GiveawaySearch(int mover, int opponent, long steps)
-    : Kinds{mover, opponent}, StepsLeft(steps) {}
+    : Kinds{TraitsOf(mover), TraitsOf(opponent)}, StepsLeft(steps) {}
 
 std::vector<int> GiveawaySearch::Judge(const std::vector<Run>& runs,
                                        const std::vector<int>& candidates) {
@@ -93,7 +93,7 @@ int GiveawaySearch::ValueOf(Turn turn) {
     const std::size_t first = Followed.size();
     FollowChoices(turn);
     const std::size_t end = Followed.size();
-    const bool isAverage = KindOf(turn) == ComputerAverage;
+    const bool isAverage = KindOf(turn).GivesLeast;
     int best = Unjudged;
     std::int64_t sum = 0;
     int count = 0;
@@ -117,12 +117,12 @@ int GiveawaySearch::ValueOf(Turn turn) {
 // to its giver, whose turn it is again: there is nothing better.
 void GiveawaySearch::FollowChoices(const Turn& turn) {
     const std::size_t first = Followed.size();
-    const bool isAverage = KindOf(turn) == ComputerAverage;
+    const bool isAverage = KindOf(turn).GivesLeast;
     const LoneRuns smallest = SmallestLoneRuns();
     for (const auto& [piece, count] : Left.Shares) {
         const Run& run = piece->Runs.front();
         if (piece->RunCount() == 1 && run.IsRing() && run.Boxes == 4 && !isAverage &&
-            OpponentKindOf(turn) == ComputerCheat) {
+            OpponentKindOf(turn).Declines) {
             Followed.resize(first);
             Followed.push_back({{piece, 0}, count});
             return;
@@ -144,9 +144,9 @@ void GiveawaySearch::FollowChoices(const Turn& turn) {
 }
 
 std::size_t GiveawaySearch::MostFollowed(const Turn& turn) const {
-    if (AllRuns - Round > RunsOfWideRounds || KindOf(turn) == ComputerAverage)
+    if (AllRuns - Round > RunsOfWideRounds || KindOf(turn).GivesLeast)
         return 1;
-    return KindOf(turn) == ComputerCheat ? CheapestOfCheatFollowed : CheapestFollowed;
+    return KindOf(turn).Declines ? CheapestOfCheatFollowed : CheapestFollowed;
 }
 
 // By manner.
@@ -164,14 +164,14 @@ GiveawaySearch::LoneRuns GiveawaySearch::SmallestLoneRuns() const {
 bool GiveawaySearch::IsDominated(RunPlace place, const LoneRuns& smallest) const {
     const Run& run = place.Opened();
     return place.Of->RunCount() == 1 && run.Boxes > smallest.at(MannerOf(run)) &&
-           !HasKind(ComputerAverage);
+           !Either(&KindTraits::GivesLeast);
 }
 
 // Runs of one manner are declined in the same way; where everything is taken, all are alike.
 int GiveawaySearch::MannerOf(const Run& run) const {
-    if (run.IsRing() || !HasKind(ComputerCheat))
+    if (run.IsRing() || !Either(&KindTraits::Declines))
         return 0;
-    return run.Boxes > 2 ? 3 : HasKind(Humanoid) ? run.Boxes : 1;
+    return run.Boxes > 2 ? 3 : !Kinds[1].IsComputer ? run.Boxes : 1;
 }
 
 // What a choice seems to cost. Every run that goes with the one opened, and forces nobody any more,
@@ -179,9 +179,9 @@ int GiveawaySearch::MannerOf(const Run& run) const {
 // player does not think of it.
 int GiveawaySearch::CostOf(const Turn& turn, RunPlace place) const {
     const Giveaway& given = place.Given();
-    if (KindOf(turn) == ComputerAverage)
+    if (KindOf(turn).GivesLeast)
         return given.Boxes;
-    if (OpponentKindOf(turn) != ComputerCheat)
+    if (!OpponentKindOf(turn).Declines)
         return given.Boxes - 2 * given.Joined;
     const int declined = given.Boxes > 2 ? BoxesDeclined(place.Opened()) : 0;
     return given.Boxes - given.Joined - 2 * declined;
@@ -191,11 +191,11 @@ int GiveawaySearch::CostOf(const Turn& turn, RunPlace place) const {
 int GiveawaySearch::ValueOfGiveaway(const Turn& turn, RunPlace place) {
     const int behind = place.Given().Behind;
     const bool isPair = place.Given().Boxes == 2;
-    if (KindOf(turn) == Humanoid) {
+    if (!KindOf(turn).IsComputer) {
         const int whole = ValueOfOpening(turn, place, true);
         return isPair ? std::max(whole, ValueOfOpening(turn, place, false)) : whole;
     }
-    if (isPair && KindOf(turn) != ComputerAverage)
+    if (isPair && !KindOf(turn).GivesLeast)
         return ValueOfOpening(turn, place, true);
     const int own = ValueOfAnyLine(turn, place);
     if (behind < 0)
@@ -217,8 +217,8 @@ int GiveawaySearch::ValueOfGiveaway(const Turn& turn, RunPlace place) {
 
 // The mean over the lines of the run. Two boxes are left whole by one line of three.
 int GiveawaySearch::ValueOfAnyLine(const Turn& turn, RunPlace place) {
-    if (place.Given().Boxes != 2 || OpponentKindOf(turn) == ComputerAverage ||
-        OpponentKindOf(turn) == ComputerIntelligent)
+    if (place.Given().Boxes != 2 ||
+        (OpponentKindOf(turn).IsComputer && !OpponentKindOf(turn).Declines))
         return ValueOfOpening(turn, place, true);
     const Turn open{turn.Level, turn.Player, turn.FollowsAll};
     return (ValueOfOpening(open, place, true) + 2 * ValueOfOpening(open, place, false)) / 3;
@@ -238,9 +238,9 @@ int GiveawaySearch::ValueOfOpening(const Turn& turn, RunPlace place, bool leaves
     const bool endsTheGame = Left.Runs + given.RunChange == 0;
     if (given.Boxes < 2 || (given.Boxes == 2 && leavesPairWhole))
         return valueOfTaking();
-    if (OpponentKindOf(turn) == ComputerCheat)
+    if (OpponentKindOf(turn).Declines)
         return endsTheGame && given.Boxes > 2 ? valueOfTaking() : valueOfDeclining();
-    const bool mayDecline = OpponentKindOf(turn) == Humanoid && KindOf(turn) == ComputerCheat;
+    const bool mayDecline = !OpponentKindOf(turn).IsComputer && KindOf(turn).Declines;
     return mayDecline ? std::min(valueOfTaking(), valueOfDeclining()) : valueOfTaking();
 }
 
@@ -251,10 +251,10 @@ int GiveawaySearch::ValueAfter(const Turn& turn, RunPlace place, int gained, int
     if (runsLeft == 0)
         return gained;
     const bool isExact = runsLeft <= Round;
-    const bool isReply = turn.Level == 0 && nextPlayer == 1 && Kinds[0] != ComputerCheat;
+    const bool isReply = turn.Level == 0 && nextPlayer == 1 && !Kinds[0].Declines;
     Turn next{turn.Level + 1, nextPlayer, isExact || (isReply && Round >= FirstRoundOfAllReplies)};
     const int sign = nextPlayer == turn.Player ? 1 : -1;
-    if (KindOf(next) != ComputerAverage) {
+    if (!KindOf(next).GivesLeast) {
         next.Low = sign * ((sign > 0 ? turn.Low : turn.High) - gained);
         next.High = sign * ((sign > 0 ? turn.High : turn.Low) - gained);
     }

@@ -7,6 +7,7 @@
 
 #include "ai/pieces.h"
 #include "ai/value_memory.h"
+#include "core/state/player_kinds.h"
 
 // A set of pieces, each with the number of times it is there.
 struct Position {
@@ -72,9 +73,9 @@ private:
         int High = -Unjudged;
     };
 
-    bool HasKind(int kind) const { return Kinds[0] == kind || Kinds[1] == kind; }
-    int KindOf(const Turn& turn) const { return Kinds.at(turn.Player); }
-    int OpponentKindOf(const Turn& turn) const { return Kinds.at(1 - turn.Player); }
+    bool Either(bool KindTraits::*trait) const { return Kinds[0].*trait || Kinds[1].*trait; }
+    const KindTraits& KindOf(const Turn& turn) const { return Kinds.at(turn.Player); }
+    const KindTraits& OpponentKindOf(const Turn& turn) const { return Kinds.at(1 - turn.Player); }
 
     int ValueOf(Turn turn);
     void FollowChoices(const Turn& turn);
@@ -90,7 +91,7 @@ private:
     int ValueAfter(const Turn& turn, RunPlace place, int gained, int nextPlayer);
     void CountSteps(long steps);
 
-    std::array<int, 2> Kinds;
+    std::array<KindTraits, 2> Kinds;
     int AllRuns = 0;
     int Round = 0;
     PieceCatalogue Catalogue;

@@ -14,13 +14,14 @@ struct KindTraits {
     const char* Word = ""; // a computer is called "Computer " and this
     bool IsComputer = true;
     bool AllowsAnyLine = false; // a person may give it a box while another could be taken
-    bool ChoosesDeeply = false; // works out what is best to give away, else gives away the least
+    bool GivesLeast = false;    // any of the smallest giveaways ...
+    bool ChoosesDeeply = false; // ... or works out which is best
     bool Declines = false;      // leaves the last boxes of a chain to the opponent
 };
 
 inline constexpr std::array PlayerKinds{
     KindTraits{.Kind = Humanoid, .Word = "Humanoid", .IsComputer = false, .AllowsAnyLine = true},
-    KindTraits{.Kind = ComputerAverage, .Word = "Average"},
+    KindTraits{.Kind = ComputerAverage, .Word = "Average", .GivesLeast = true},
     KindTraits{.Kind = ComputerIntelligent, .Word = "Intelligent", .ChoosesDeeply = true},
     KindTraits{.Kind = ComputerCheat,
                .Word = "Cheat",
