@@ -82,15 +82,12 @@ TEST_F(Files, AreWholeWhileCopiesOfTheProgramWriteThemAndAreKilled) {
             while (copies.back() == 0)
                 ReplaceBy(whole(letter));
         }
-        for (int look = 0; look < 8; ++look) {
+        for (const pid_t copy : copies) {
             const std::string bytes = BytesOf(File);
             EXPECT_TRUE(!bytes.empty() && bytes == whole(bytes.front()));
-        }
-        for (const pid_t copy : copies) {
             kill(copy, SIGKILL);
             waitpid(copy, nullptr, 0);
         }
-        EXPECT_EQ(BytesOf(File).size(), whole('a').size());
     }
     ReplaceBy("the last");
     EXPECT_EQ(CountFiles(), 1) << "something is left of the killed";

@@ -165,10 +165,7 @@ TEST_F(Pointer, IsNotNeededWhereThereAreKeys) {
 TEST_F(Pointer, AndKeysTakeOverFromEachOther) {
     DrawForNobody({9});
     Game.ComputerGhostLine = 9;
-    PointAt(1);
-    PressKeys("R");
-    picPlayingField_MouseMove(Game.PointerX, Game.PointerY);
-    EXPECT_EQ(Game.GhostLine, 2) << "the pointer lies still";
+    PointAt(2);
     MoveTo(12, 12);
     PressKeys("L");
     EXPECT_EQ(Game.GhostLine, 2) << "where the last one was";
