@@ -227,6 +227,7 @@ TEST_F(RealWindow, NeedsNoPointerForAWholeGameItsDialogsAndItsFiles) {
 }
 
 TEST_F(RealWindow, ForgetsNothingOfTheBoardAndStaysOnTheScreenWhenBothBecomeSmaller) {
+    Use("ctrl+r", "Define Playing Grid", "Escape"); // a new window may still take its own size
     ResizeWindow({900, 700});
     Use("ctrl+r", "Define Playing Grid", "End Tab 4 Return");
     StartGame("ctrl+d", 34, 4);
