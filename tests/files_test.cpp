@@ -7,7 +7,6 @@
 #include <unistd.h>
 
 #include <csignal>
-#include <vector>
 
 #include "support/game_test.h"
 
@@ -74,13 +73,13 @@ TEST_F(Files, AreWholeWhileCopiesOfTheProgramWriteThemAndAreKilled) {
     const auto whole = [](char letter) { return std::string(1 << 17, letter); };
     ReplaceBy(whole('a'));
     for (int round = 0; round < 10; ++round) {
-        std::vector<pid_t> copies;
-        for (const char letter : {'a', 'b', 'c'}) {
-            copies.push_back(fork());
-            if (copies.back() == 0)
+        pid_t copies[3];
+        for (pid_t& copy : copies) {
+            copy = fork();
+            if (copy == 0)
                 prctl(PR_SET_PDEATHSIG, SIGKILL);
-            while (copies.back() == 0)
-                ReplaceBy(whole(letter));
+            while (copy == 0)
+                ReplaceBy(whole(static_cast<char>('a' + (&copy - copies))));
         }
         for (const pid_t copy : copies) {
             const std::string bytes = BytesOf(File);

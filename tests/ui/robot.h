@@ -130,10 +130,6 @@ public:
         xdo_click_window(Hand, CURRENTWINDOW, 1);
     }
 
-    void Resize(QSize size) {
-        xdo_set_window_size(Hand, FocusedWindow(), size.width(), size.height(), 0);
-    }
-
     // 0xRRGGBB.
     unsigned long PixelAt(QPoint point) {
         unsigned long color = 0;

@@ -130,10 +130,8 @@ TEST_F(RealWindow, AnswersItsMenusByAccessKeyAndEndsWithinASecondBehindADialog) 
     StartGame("alt+g a", 4, 4); // Game, Auto
     Await("an automatic game", [&] { return CountDrawn() >= 16; });
     Use("ctrl+x", "Exit the Game", "Escape");
-    const QSize size = FocusedArea().size();
-    Resize(size + QSize(80, 60));
-    Await("the field in its new place",
-          [&] { return FocusedArea().size() != size && FindField(4, 4) && CountDrawn() >= 16; });
+    ResizeWindow(FocusedArea().size() + QSize(80, 60));
+    Await("the field in its new place", [&] { return FindField(4, 4) && CountDrawn() >= 16; });
     Open("ctrl+h", "Quiblink Help");
     Await("the help", [&] { return AreaOf(Text).height() > 100; });
     Press("Return");
