@@ -97,7 +97,7 @@ void TellStanding() {
         return;
     std::string standing = StandingInWords();
     if (BoardIsWhole() && Game.BoxesClaimed < Game.BoxCount)
-        standing += " " + OpenBoxesInWords();
+        standing += ' ' + OpenBoxesInWords();
     Say(standing);
 }
 
