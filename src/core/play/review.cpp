@@ -22,10 +22,12 @@ std::string EffectInWords(int line) {
         effect = "gives " + BoxesInWords(prospect.Given) + " away";
     if (prospect.Open == 0)
         return effect;
-    const std::string lie = prospect.Open == 1 ? " lies open" : " lie open";
+    const bool isOne = prospect.Open == 1;
     if (effect == "free")
-        return effect + ", but " + BoxesInWords(prospect.Open) + lie;
-    return effect + ", and " + std::to_string(prospect.Open) + " more" + lie;
+        return effect + ", but " + BoxesInWords(prospect.Open) +
+               (isOne ? " lies open" : " lie open");
+    return effect + ", and " + std::to_string(prospect.Open) +
+           (isOne ? " more lies open" : " more lie open");
 }
 
 std::string OpenBoxesInWords() {
