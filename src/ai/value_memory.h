@@ -32,7 +32,7 @@ public:
     Bounds& At(std::uint64_t code, std::uint32_t kind) {
         Row& row = Rows[PlaceOf(code)];
         const std::uint64_t own = code ^ (0x9E3779B97F4A7C15U * kind);
-        auto slot = std::ranges::find_if(
+        auto* slot = std::ranges::find_if(
             row, [own](const Slot& s) { return s.Code == own || s.Code == 0; });
         if (slot == row.end())
             slot = row.begin();

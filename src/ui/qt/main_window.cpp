@@ -49,7 +49,9 @@ QRect ToPixels(const Rectangle& twips) {
 // steps in which the pictures are sharp.
 QSize IconSize() {
     constexpr double pixelsPerPoint = 2.4;
-    constexpr int step = 6, smallest = 24, largest = 60;
+    constexpr int step = 6;
+    constexpr int smallest = 24;
+    constexpr int largest = 60;
     const long steps = std::lround(QApplication::font().pointSizeF() * pixelsPerPoint / step);
     const int size = std::clamp(static_cast<int>(steps) * step, smallest, largest);
     return {size, size};
@@ -250,7 +252,7 @@ void MainWindow::KeepIfChanged() {
 }
 
 void MainWindow::KeepOnScreenSoon() {
-    QTimer::singleShot(RestMilliseconds, this, &MainWindow::KeepIfChanged);
+    QTimer::singleShot(RestMilliseconds, this, [this] { KeepIfChanged(); });
 }
 
 void MainWindow::FollowScreens() {

@@ -31,9 +31,11 @@ bool KeepOnScreen(QWidget& window) {
 
 void PlaceBeside(QWidget& window, const QWidget& other, int narrowest) {
     const QRect area = other.screen()->availableGeometry();
-    const QRect frame = other.frameGeometry(), inside = other.geometry();
+    const QRect frame = other.frameGeometry();
+    const QRect inside = other.geometry();
     const int border = inside.left() - frame.left(); // of the other one; its own will be the same
-    const int left = frame.left() - area.left(), right = area.right() - frame.right();
+    const int left = frame.left() - area.left();
+    const int right = area.right() - frame.right();
     const int room = std::max(left, right) - 2 * border;
     if (room < narrowest)
         return;
