@@ -102,7 +102,7 @@ TEST_F(DeepChoice, IsThatOfTheLastRoundBegunWhenTheStepsEnd) {
     DrawSafeLines();
     EXPECT_EQ(Judged({3, 2}, 0).back(), -GiveawaySearch::Box) << "a single box costs least at once";
     std::vector<int> round = Judged({3, 2});
-    std::set<std::size_t> sizes; // of whole rounds but the last, which judges more
+    std::set<std::size_t> sizes; // of whole rounds: the last one judges more
     int rounds = 1;
     bool wasCutShort = false;
     for (long steps = 30'000; steps > 1'000; steps -= steps / 20) {
@@ -115,7 +115,7 @@ TEST_F(DeepChoice, IsThatOfTheLastRoundBegunWhenTheStepsEnd) {
         round = margins;
         ++rounds;
     }
-    EXPECT_TRUE(wasCutShort && sizes.size() == 1 && rounds >= 3) << rounds;
+    EXPECT_TRUE(wasCutShort && sizes.size() <= 2 && rounds >= 3) << rounds;
 }
 
 TEST_F(DeepChoice, StopsAtOnceWhenTheGameIsGivenUp) {

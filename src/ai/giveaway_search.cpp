@@ -13,11 +13,11 @@
 namespace {
 
 constexpr int FirstRound = 4;
-constexpr int RoundsApart = 2;
-constexpr int FirstRoundOfAllReplies = 18; // before it they cost more than they tell
-constexpr int RunsOfWideRounds = 12;       // left out of those that a round follows everything of
+constexpr int RoundsApart = 1;
+constexpr int FirstRoundOfAllReplies = 4;
+constexpr int RunsOfWideRounds = 12; // left out of those that a round follows everything of
 constexpr std::size_t CheapestFollowed = 2;
-constexpr std::size_t CheapestOfCheatFollowed = 3;
+constexpr std::size_t CheapestFollowedWithDeclining = 3; // of a cheat and of a person
 
 constexpr long ChoicesPerStep = 16;    // to look through
 constexpr long RunsEnteredPerStep = 4; // into the catalogue
@@ -146,7 +146,8 @@ void GiveawaySearch::FollowChoices(const Turn& turn) {
 std::size_t GiveawaySearch::MostFollowed(const Turn& turn) const {
     if (AllRuns - Round > RunsOfWideRounds || KindOf(turn).GivesLeast)
         return 1;
-    return KindOf(turn).Declines ? CheapestOfCheatFollowed : CheapestFollowed;
+    const bool mayDecline = KindOf(turn).Declines || !KindOf(turn).IsComputer;
+    return mayDecline ? CheapestFollowedWithDeclining : CheapestFollowed;
 }
 
 // By manner.
@@ -175,8 +176,8 @@ int GiveawaySearch::MannerOf(const Run& run) const {
 }
 
 // What a choice seems to cost. Every run that goes with the one opened, and forces nobody any more,
-// is worth two boxes; where a cheat leaves boxes and the turn to the giver only one. An average
-// player does not think of it.
+// is worth two boxes; to a cheat what it leaves is worth more. An average player does not think of
+// it.
 int GiveawaySearch::CostOf(const Turn& turn, RunPlace place) const {
     const Giveaway& given = place.Given();
     if (KindOf(turn).GivesLeast)
@@ -184,7 +185,7 @@ int GiveawaySearch::CostOf(const Turn& turn, RunPlace place) const {
     if (!OpponentKindOf(turn).Declines)
         return given.Boxes - 2 * given.Joined;
     const int declined = given.Boxes > 2 ? BoxesDeclined(place.Opened()) : 0;
-    return given.Boxes - given.Joined - 2 * declined;
+    return given.Boxes - 2 * declined;
 }
 
 // The row of a run, with the line in it as its player draws it.
@@ -193,7 +194,8 @@ int GiveawaySearch::ValueOfGiveaway(const Turn& turn, RunPlace place) {
     const bool isPair = place.Given().Boxes == 2;
     if (!KindOf(turn).IsComputer) {
         const int whole = ValueOfOpening(turn, place, true);
-        return isPair ? std::max(whole, ValueOfOpening(turn, place, false)) : whole;
+        return isPair && whole < turn.High ? std::max(whole, ValueOfOpening(turn, place, false))
+                                           : whole;
     }
     if (isPair && !KindOf(turn).GivesLeast)
         return ValueOfOpening(turn, place, true);
@@ -212,7 +214,8 @@ int GiveawaySearch::ValueOfGiveaway(const Turn& turn, RunPlace place) {
     if (more <= turn.Low || less >= turn.High || (less > turn.Low && more < turn.High))
         return mean(own, other);
     const Turn open{turn.Level, turn.Player, turn.FollowsAll};
-    return mean(ValueOfAnyLine(open, place), ValueOfAnyLine(open, placeBehind));
+    const int openOwn = ValueOfAnyLine(open, place); // first, on every compiler: steps may end
+    return mean(openOwn, ValueOfAnyLine(open, placeBehind));
 }
 
 // The mean over the lines of the run. Two boxes are left whole by one line of three.
@@ -221,15 +224,16 @@ int GiveawaySearch::ValueOfAnyLine(const Turn& turn, RunPlace place) {
         (OpponentKindOf(turn).IsComputer && !OpponentKindOf(turn).Declines))
         return ValueOfOpening(turn, place, true);
     const Turn open{turn.Level, turn.Player, turn.FollowsAll};
-    return (ValueOfOpening(open, place, true) + 2 * ValueOfOpening(open, place, false)) / 3;
+    const int whole = ValueOfOpening(open, place, true);
+    return (whole + 2 * ValueOfOpening(open, place, false)) / 3;
 }
 
 // `leavesPairWhole` tells, of two boxes, that the line between them was drawn, so that both must be
 // taken or neither.
 int GiveawaySearch::ValueOfOpening(const Turn& turn, RunPlace place, bool leavesPairWhole) {
     const Giveaway& given = Catalogue.Open(place);
-    const auto valueOfTaking = [&] {
-        return ValueAfter(turn, place, -Box * given.Boxes, 1 - turn.Player);
+    const auto valueOfTaking = [&](const Turn& within) {
+        return ValueAfter(within, place, -Box * given.Boxes, 1 - turn.Player);
     };
     const auto valueOfDeclining = [&] {
         const int margin = 2 * BoxesDeclined(place.Opened()) - given.Boxes;
@@ -237,11 +241,18 @@ int GiveawaySearch::ValueOfOpening(const Turn& turn, RunPlace place, bool leaves
     };
     const bool endsTheGame = Left.Runs + given.RunChange == 0;
     if (given.Boxes < 2 || (given.Boxes == 2 && leavesPairWhole))
-        return valueOfTaking();
+        return valueOfTaking(turn);
     if (OpponentKindOf(turn).Declines)
-        return endsTheGame && given.Boxes > 2 ? valueOfTaking() : valueOfDeclining();
+        return endsTheGame && given.Boxes > 2 ? valueOfTaking(turn) : valueOfDeclining();
     const bool mayDecline = !OpponentKindOf(turn).IsComputer && KindOf(turn).Declines;
-    return mayDecline ? std::min(valueOfTaking(), valueOfDeclining()) : valueOfTaking();
+    if (!mayDecline)
+        return valueOfTaking(turn);
+    const int declined = valueOfDeclining();
+    if (declined <= turn.Low)
+        return declined;
+    Turn unlessDeclined = turn;
+    unlessDeclined.High = std::min(declined, turn.High);
+    return std::min(declined, valueOfTaking(unlessDeclined));
 }
 
 // The margin when `gained` came of what was given in `turn` and it is `nextPlayer` who must give
