@@ -70,7 +70,7 @@ public:
     }
 
     // Tells whether it came true before the time was up.
-    static bool WaitFor(const std::function<bool()>& condition, int milliseconds = 20'000) {
+    static bool WaitFor(const std::function<bool()>& condition, int milliseconds = 60'000) {
         const QDeadlineTimer end(milliseconds);
         while (!condition()) {
             if (end.hasExpired())
