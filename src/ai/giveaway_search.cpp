@@ -165,12 +165,12 @@ GiveawaySearch::LoneRuns GiveawaySearch::SmallestLoneRuns() const {
 bool GiveawaySearch::IsDominated(RunPlace place, const LoneRuns& smallest) const {
     const Run& run = place.Opened();
     return place.Of->RunCount() == 1 && run.Boxes > smallest.at(MannerOf(run)) &&
-           !Either(&KindTraits::GivesLeast);
+           !Kinds[0].GivesLeast && !Kinds[1].GivesLeast;
 }
 
 // Runs of one manner are declined in the same way; where everything is taken, all are alike.
 int GiveawaySearch::MannerOf(const Run& run) const {
-    if (run.IsRing() || !Either(&KindTraits::Declines))
+    if (run.IsRing() || (!Kinds[0].Declines && !Kinds[1].Declines))
         return 0;
     return run.Boxes > 2 ? 3 : !Kinds[1].IsComputer ? run.Boxes : 1;
 }

@@ -73,7 +73,6 @@ private:
         int High = -Unjudged;
     };
 
-    bool Either(bool KindTraits::*trait) const { return Kinds[0].*trait || Kinds[1].*trait; }
     const KindTraits& KindOf(const Turn& turn) const { return Kinds.at(turn.Player); }
     const KindTraits& OpponentKindOf(const Turn& turn) const { return Kinds.at(1 - turn.Player); }
 
