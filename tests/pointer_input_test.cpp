@@ -162,18 +162,4 @@ TEST_F(Pointer, IsNotNeededWhereThereAreKeys) {
     }
 }
 
-TEST_F(Pointer, AndKeysTakeOverFromEachOther) {
-    DrawForNobody({9});
-    Game.ComputerGhostLine = 9;
-    PointAt(2);
-    MoveTo(12, 12);
-    PressKeys("L");
-    EXPECT_EQ(Game.GhostLine, 2) << "where the last one was";
-    PointAt(4);
-    Game.ComputerGhostLine = 9;
-    PressKeys("D");
-    picPlayingField_KeyDown(FieldKey::Draw);
-    EXPECT_TRUE(Game.ChosenLine == 7 && Game.ComputerGhostLine == 0);
-}
-
 } // namespace
