@@ -79,8 +79,8 @@ private:
     void TakeWord(const RtfToken& word);
     void TakeSymbol(const RtfToken& symbol);
     void TakeText(std::string_view text);
-    bool FormatRun(const RtfToken& word);
-    bool FormatParagraph(const RtfToken& word);
+    void FormatRun(const RtfToken& word);
+    void FormatParagraph(const RtfToken& word);
     void Structure(const RtfToken& word);
     void TakeColorWord(const RtfToken& word);
     void EndColors(std::string_view text);
@@ -191,16 +191,17 @@ void Reader::TakeWord(const RtfToken& word) {
     if (DeeperGroups > 0 || IsFallback() || Groups.back().Into == Destination::Skipped)
         return;
     if (Groups.back().Into == Destination::Colors)
-        TakeColorWord(word);
-    else if (const auto character = Characters.find(word.Text); character != Characters.end())
-        Add(character->second);
-    else if (SkippedGroups.contains(word.Text))
-        Skip();
-    else if (!FormatRun(word) && !FormatParagraph(word))
-        Structure(word);
+        return TakeColorWord(word);
+    if (const auto character = Characters.find(word.Text); character != Characters.end())
+        return Add(character->second);
+    if (SkippedGroups.contains(word.Text))
+        return Skip();
+    FormatRun(word);
+    FormatParagraph(word);
+    Structure(word);
 }
 
-bool Reader::FormatRun(const RtfToken& word) {
+void Reader::FormatRun(const RtfToken& word) {
     RichRunFormat& format = Groups.back().Run;
     if (const auto found = Switches.find(word.Text); found != Switches.end()) {
         format.*found->second = !word.HasNumber || word.Number != 0;
@@ -213,13 +214,10 @@ bool Reader::FormatRun(const RtfToken& word) {
     } else if (word.Text == "cf") {
         const bool isKnown = word.Number >= 0 && word.Number < static_cast<int>(Colors.size());
         format.Color = isKnown ? Colors.at(static_cast<std::size_t>(word.Number)) : std::nullopt;
-    } else {
-        return false;
     }
-    return true;
 }
 
-bool Reader::FormatParagraph(const RtfToken& word) {
+void Reader::FormatParagraph(const RtfToken& word) {
     Group& group = Groups.back();
     const auto length = Lengths.find(word.Text);
     const auto alignment = Alignments.find(word.Text);
@@ -233,10 +231,7 @@ bool Reader::FormatParagraph(const RtfToken& word) {
         group.IsInTable = false;
     } else if (word.Text == "intbl") {
         group.IsInTable = true;
-    } else {
-        return false;
     }
-    return true;
 }
 
 void Reader::Structure(const RtfToken& word) {
