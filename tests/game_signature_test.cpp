@@ -1,42 +1,49 @@
-// One number for all behaviour: a hash over every drawing and every text of many whole games.
+// Numbers for all behaviour: hashes over what is drawn, shown, told, asked and played in many
+// games.
 #include <cstdint>
 #include <fstream>
+#include <sstream>
 
+#include "support/anything.h"
 #include "support/game_test.h"
 #include "ui/commands.h"
 
 namespace {
 
-// A 64-bit FNV-1a hash of what was drawn since the last call and of the texts as they stand.
+// A 64-bit FNV-1a hash of what came to pass since the last call and of the controls as they stand.
 class Recorder {
 public:
     void Record() {
-        for (; Recorded < TheNullDesktop.Drawings.size(); ++Recorded) {
-            const Drawing& d = TheNullDesktop.Drawings.at(Recorded);
-            for (const int number : {static_cast<int>(d.What), d.FromX, d.FromY, d.ToX, d.ToY,
-                                     static_cast<int>(d.DrawnColor)})
-                Add(std::to_string(number));
-        }
-        for (const auto* box : {&frmQuibsMain.txtPlayer1Status, &frmQuibsMain.txtPlayer2Status,
-                                &frmQuibsMain.txtBoxesStatus, &frmQuibsMain.txtLinesStatus})
-            Add(box->Text);
-        Add(frmQuibsMain.lblPlayer1Active.Caption);
-        Add(frmQuibsMain.lblPlayer2Active.Caption);
+        std::ostringstream seen;
+        const auto addNew = [&seen](const auto& all, std::size_t& known, auto add) {
+            for (known = known > all.size() ? 0 : known; known < all.size(); ++known) {
+                add(all.at(known));
+                seen << '\n';
+            }
+        };
+        addNew(TheNullDesktop.Drawings, Drawings, [&seen](const Drawing& d) {
+            seen << static_cast<int>(d.What) << ' ' << d.FromX << ' ' << d.FromY << ' ' << d.ToX
+                 << ' ' << d.ToY << ' ' << d.DrawnColor;
+        });
+        const auto addText = [&seen](const std::string& text) { seen << text; };
+        addNew(TheNullDesktop.Sayings, Sayings, addText);
+        addNew(TheNullDesktop.Sounds, Sounds, addText);
+        addNew(TheNullDesktop.Boxes, Boxes,
+               [&seen](const MessageBox& box) { seen << box.Title << ": " << box.Text; });
+        PrintTo(frmQuibsMain, &seen);
+        for (const char c : seen.str())
+            Hash = (Hash ^ static_cast<unsigned char>(c)) * 0x100000001B3U;
     }
 
     std::uint64_t Hash = 0xCBF29CE484222325U;
-    std::size_t Recorded = 0;
 
 private:
-    void Add(const std::string& text) {
-        for (const char c : text + '\n')
-            Hash = (Hash ^ static_cast<unsigned char>(c)) * 0x100000001B3U;
-    }
+    std::size_t Drawings = 0, Sayings = 0, Sounds = 0, Boxes = 0; // recorded
 };
 
 class GameSignature : public GameTest {};
 
-TEST_F(GameSignature, OfEveryPairOfPlayersIsTheOneOnRecordAndTheirBoardsAreSound) {
+TEST_F(GameSignature, OfEveryPairOfPlayersAndOfAnythingUsersDoIsTheOneOnRecord) {
     Recorder recorder;
     for (const auto& [columns, rows] : {std::pair{10, 10}, {7, 4}, {1, 1}, {1, 6}, {5, 1}, {2, 2}})
         for (Integer firstKind = Humanoid; firstKind <= ComputerCheat; ++firstKind)
@@ -46,7 +53,6 @@ TEST_F(GameSignature, OfEveryPairOfPlayersIsTheOneOnRecordAndTheirBoardsAreSound
                     SetUpGame(columns, rows, firstKind, secondKind);
                     Game.GameInPlay = false;
                     LetPersonsPlay(1);
-                    recorder.Recorded = 0;
                     TheNullDesktop.WhenYielding = [&recorder] {
                         recorder.Record();
                         ASSERT_TRUE(BoardIsSound());
@@ -56,6 +62,11 @@ TEST_F(GameSignature, OfEveryPairOfPlayersIsTheOneOnRecordAndTheirBoardsAreSound
                     EXPECT_EQ(Game.LinesDrawn, columns * (rows + 1) + (columns + 1) * rows);
                     EXPECT_TRUE(!Game.GameInPlay && frmQuibsMain.shpPlayer4Active.Visible);
                 }
+    for (std::uint32_t seed = 1; seed <= 500; ++seed)
+        PlayAnyGame(seed, [&recorder] {
+            recorder.Record();
+            EXPECT_EQ(FaultSeen(), "");
+        });
     std::uint64_t onRecord = 0;
     std::ifstream(QUIBLINK_TESTS "/game_signature.txt") >> onRecord;
     EXPECT_EQ(recorder.Hash, onRecord)

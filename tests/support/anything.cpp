@@ -56,6 +56,10 @@ void PressAnyLine(std::uint32_t choice) {
         PressLine(lines.at(choice % lines.size()));
 }
 
+void PressAnyKey(std::uint32_t choice) {
+    picPlayingField_KeyDown(static_cast<FieldKey>(choice % 12));
+}
+
 // Or presses there, after a movement over a dialog or a menu, which the field does not hear of.
 void PointAnywhere(std::uint32_t choice) {
     const PointerPlace place{static_cast<float>(100 * TakeDigit(choice, 90)),
@@ -112,7 +116,7 @@ void DoAnything(std::uint32_t number) {
         ChoosePlayers,
         Resize,
         PressAnyLine,
-        PressAnyLine,
+        PressAnyKey,
         PointAnywhere,
         [](std::uint32_t seed) { OpenDamaged(Damaged(BytesOf("saved.qbs"), seed)); },
         [](std::uint32_t) { OpenGame("saved.qbs"); },
@@ -125,4 +129,24 @@ void DoAnything(std::uint32_t number) {
                                                                : MessageAnswer::No);
     const auto thing = static_cast<std::size_t>(TakeDigit(number, std::size(things) + commands));
     RunGuarded([=] { things[std::min(thing, std::size(things) - 1)](number); });
+}
+
+void PlayAnyGame(std::uint32_t seed, const std::function<void()>& look) {
+    std::mt19937 chance(seed);
+    StartFresh();
+    Game.GridColumns = ToInteger(1 + static_cast<int>(chance() % 9));
+    Game.GridRows = ToInteger(1 + static_cast<int>(chance() % 7));
+    LetPersonsPlay(seed);
+    const auto doAnything = [&] { DoAnything(static_cast<std::uint32_t>(chance())); };
+    TheNullDesktop.WhenYielding = TheNullDesktop.WhenAsked = [&] {
+        look();
+        if (chance() % 2 == 0)
+            doAnything();
+        look();
+    };
+    do {
+        doAnything();
+        RunGuarded([] { RunCommand(Command::Start); });
+        look();
+    } while (Game.GamePaused && !Game.ProgramEnding);
 }

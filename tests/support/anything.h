@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <string>
 
 // One of all the things that a user may do with the window as it is; every number stands for one.
@@ -17,3 +18,7 @@ void OpenDamaged(const std::string& text);
 // What is wrong with the game as it stands, or with what it told; "" = nothing. Such a game may be
 // refused where it begins, and is sound from then on.
 std::string FaultSeen();
+
+// Plays a fresh program's first game to its end, or to that of the program, while anything happens,
+// and looks before and after it.
+void PlayAnyGame(std::uint32_t seed, const std::function<void()>& look);
