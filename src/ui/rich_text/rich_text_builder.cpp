@@ -32,8 +32,7 @@ bool IsText(char32_t character) {
     const bool isControl = (character < 0x20 && character != '\t') || isIn(0x7F, 0x9F);
     const bool isMark =
         isIn(0x202A, 0x202E) || isIn(0x2066, 0x2069) || character == 0x2029 || character == 0xFFFC;
-    const bool isNone = isIn(0xD800, 0xDFFF) || isIn(0xFDD0, 0xFDEF) ||
-                        (character & 0xFFFE) == 0xFFFE || character > 0x10FFFF;
+    const bool isNone = isIn(0xFDD0, 0xFDEF) || (character & 0xFFFE) == 0xFFFE;
     return !isControl && !isMark && !isNone;
 }
 
