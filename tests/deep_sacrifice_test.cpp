@@ -60,13 +60,16 @@ protected:
         return margins;
     }
 
-    // The margins of the rows that are judged, sorted.
-    static std::vector<int> Judged(Pair kinds, long steps = GiveawaySearch::UsualSteps) {
+    static std::vector<int> Judge(Pair kinds, long steps = GiveawaySearch::UsualSteps) {
         const BoardRuns board = FindBoardRuns();
         std::vector<int> all(board.Runs.size());
         std::iota(all.begin(), all.end(), 0);
-        std::vector<int> margins =
-            GiveawaySearch(kinds.Mover, kinds.Opponent, steps).Judge(board.Runs, all);
+        return GiveawaySearch(kinds.Mover, kinds.Opponent, steps).Judge(board.Runs, all);
+    }
+
+    // The margins of the rows that are judged, sorted.
+    static std::vector<int> Judged(Pair kinds, long steps = GiveawaySearch::UsualSteps) {
+        std::vector<int> margins = Judge(kinds, steps);
         std::erase(margins, GiveawaySearch::Unjudged);
         std::sort(margins.begin(), margins.end());
         return margins;
@@ -116,6 +119,18 @@ TEST_F(DeepChoice, IsThatOfTheLastRoundBegunWhenTheStepsEnd) {
         ++rounds;
     }
     EXPECT_TRUE(wasCutShort && sizes.size() <= 2 && rounds >= 3) << rounds;
+}
+
+TEST_F(DeepChoice, IsFoundInFewStepsAmongWhatCostsLeast) {
+    SeedRandom(111);
+    SetUpGame(8, 6, ComputerIntelligent, ComputerCheat);
+    DrawSafeLines();
+    const std::vector<int> exact = Judge({2, 3});
+    for (const long steps : {500, 1000, 2000}) {
+        const std::vector<int> judged = Judge({2, 3}, steps);
+        const auto chosen = std::ranges::max_element(judged) - judged.begin();
+        EXPECT_EQ(exact.at(chosen), *std::ranges::max_element(exact)) << steps;
+    }
 }
 
 TEST_F(DeepChoice, StopsAtOnceWhenTheGameIsGivenUp) {
