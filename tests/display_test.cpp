@@ -27,21 +27,6 @@ TEST_F(DisplayTest, ShowsNumbersRightAlignedInFiveCharacters) {
     EXPECT_EQ(frmQuibsMain.txtPlayer2Status.Text, "<b>Bo</b>:    -5     Humanoid");
 }
 
-TEST_F(DisplayTest, TakesWhatTheDialogsChoose) {
-    const PlayerSettings players{.PlayerName = {{"Ada", "Bo"}},
-                                 .PlayerKind = {{Humanoid, ComputerCheat}},
-                                 .PlayerColor = {{LightRed, LightGreen}}};
-    SetPlayers(players);
-    EXPECT_TRUE(Game.SettingsChanged && static_cast<PlayerSettings&>(Game) == players);
-    EXPECT_EQ(TextsOf(frmQuibsMain), "Ada:     0     Humanoid|Bo:     0     Cheat||");
-    EXPECT_EQ(frmQuibsMain.shpPlayer2Status.FillColor, LightGreen);
-    Game.SettingsChanged = false;
-    const GridSettings grid{3, 2, LightRed, LightGreen, BrightWhite, Black};
-    SetGrid(grid);
-    EXPECT_TRUE(Game.SettingsChanged && static_cast<GridSettings&>(Game) == grid);
-    EXPECT_EQ(frmQuibsMain.picPlayingField.BackColor, LightRed);
-}
-
 TEST_F(DisplayTest, PlaysTheSoundsThatAreThereInTurnWhileTheyAreWanted) {
     const TestDirectory directory;
     for (const char* name : {"SndC1.wav", "SndC3.wav", "SndC0.wav", "SndC11.wav", "SndT10.wav"})

@@ -1,14 +1,10 @@
 // Where the points, lines and boxes of a field lie, and what is drawn of them.
 #include "display/field.h"
 
-#include <algorithm>
-
 #include "core/play/game_setup.h"
 #include "core/state/grid.h"
-#include "display/safe_lines.h"
 #include "storage/saved_game.h"
 #include "support/game_test.h"
-#include "support/person.h"
 #include "ui/commands.h"
 
 namespace {
@@ -22,11 +18,6 @@ protected:
         Game.PointSpacingX = 300;
     }
 };
-
-bool IsDrawn(const Drawing& wanted) {
-    const auto& all = TheNullDesktop.Drawings;
-    return std::find(all.begin(), all.end(), wanted) != all.end();
-}
 
 TEST_F(Field, OfThreeByTwoBoxesIsNumberedAsCountedByHand) {
     SetUpGame(3, 2, Humanoid, Humanoid);
@@ -56,35 +47,6 @@ TEST_F(Field, IsCentredAndLoweredToWhatFits) {
         EXPECT_EQ(Game.BoxCount, c.Columns * c.Rows);
         EXPECT_TRUE(Game.FieldLeft == c.Left && Game.FieldTop == c.Top) << c.Width;
     }
-}
-
-TEST_F(Field, MovesToTheNewCentreWithWhatIsDrawnOnItButNoGhosts) {
-    SetUpGame(3, 2, Humanoid, Humanoid);
-    EXPECT_THROW(FillBox(6), std::out_of_range) << "it has no owner";
-    DrawForNobody({4, 1, 10, 12, 17});
-    Game.GhostLine = 5;
-    Game.ComputerGhostLine = 17;
-    Game.GridColumns = 9; // asked for the next game
-    TheNullDesktop.PictureWidth += 200;
-    TheNullDesktop.PictureHeight -= 50;
-    const int left = Game.FieldLeft + 100;
-    const int top = Game.FieldTop - 25;
-    ASSERT_TRUE(RedrawField());
-    EXPECT_TRUE(Game.FieldLeft == left && Game.FieldRight == left + 900);
-    EXPECT_TRUE(Game.FieldTop == top && Game.FieldBottom == top + 750);
-    EXPECT_TRUE(Game.Lines.at(5).X == left + 300 && Game.Lines.at(5).Y == top + 375);
-    const int right = left + 900;
-    const int bottom = top + 750;
-    for (const Drawing& wanted :
-         {Drawing{Drawing::Kind::Line, left, top + 375, left + 300, top + 375, BrightWhite},
-          {Drawing::Kind::Line, right, top + 375, right, bottom, BrightWhite},
-          {Drawing::Kind::Point, right, bottom, right, bottom, BrightWhite},
-          // Three pixels inside the lines.
-          {Drawing::Kind::Box, left + 36, top + 45, left + 300 - 36, top + 375 - 45, Black}})
-        EXPECT_TRUE(IsDrawn(wanted));
-    EXPECT_FALSE(
-        IsDrawn({Drawing::Kind::Line, left + 300, top + 375, left + 600, top + 375, BrightWhite}));
-    EXPECT_EQ(Game.GhostLine + Game.ComputerGhostLine, 0);
 }
 
 TEST_F(Field, ThatNoLongerFitsIsLeftWhereItWasAndWarnedOfDuringAGame) {

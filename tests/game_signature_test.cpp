@@ -1,5 +1,6 @@
-// Numbers for all behaviour: hashes over what is drawn, shown, told, asked and played in many
-// games.
+// Numbers for all behaviour: hashes over what is drawn, shown, told, asked and
+// played in many games.
+#include <cmath>
 #include <cstdint>
 #include <fstream>
 #include <sstream>
@@ -10,7 +11,8 @@
 
 namespace {
 
-// A 64-bit FNV-1a hash of what came to pass since the last call and of the controls as they stand.
+// A 64-bit FNV-1a hash of what came to pass since the last call and of the
+// controls as they stand.
 class Recorder {
 public:
     void Record() {
@@ -30,7 +32,10 @@ public:
         addNew(TheNullDesktop.Sounds, Sounds, addText);
         addNew(TheNullDesktop.Boxes, Boxes,
                [&seen](const MessageBox& box) { seen << box.Title << ": " << box.Text; });
+        addNew(TheNullDesktop.Forms, Forms,
+               [&seen](Form form) { seen << static_cast<int>(form) << Game.ShowHistory; });
         PrintTo(frmQuibsMain, &seen);
+        seen << std::lround(TheNullDesktop.SecondsWaited + 0.27); // no wait ends near a half
         for (const char c : seen.str())
             Hash = (Hash ^ static_cast<unsigned char>(c)) * 0x100000001B3U;
     }
@@ -38,13 +43,16 @@ public:
     std::uint64_t Hash = 0xCBF29CE484222325U;
 
 private:
-    std::size_t Drawings = 0, Sayings = 0, Sounds = 0, Boxes = 0; // recorded
+    std::size_t Drawings = 0, Sayings = 0, Sounds = 0, Boxes = 0,
+                Forms = 0; // recorded
 };
 
 class GameSignature : public GameTest {};
 
 TEST_F(GameSignature, OfEveryPairOfPlayersAndOfAnythingUsersDoIsTheOneOnRecord) {
     Recorder recorder;
+    for (const char* sound : {"SndClick.wav", "SndC1.wav", "SndH2.wav", "SndT1.wav"})
+        PutBytes(sound, "");
     for (const auto& [columns, rows] : {std::pair{10, 10}, {7, 4}, {1, 1}, {1, 6}, {5, 1}, {2, 2}})
         for (Integer firstKind = Humanoid; firstKind <= ComputerCheat; ++firstKind)
             for (Integer secondKind = Humanoid; secondKind <= ComputerCheat; ++secondKind)

@@ -1,18 +1,11 @@
 // What one drawn line changes, and which lines a person may draw.
 #include "core/rules/moves.h"
 
-#include "support/files.h"
 #include "support/game_test.h"
 
 namespace {
 
-class Moves : public GameTest {
-protected:
-    static void Draw(int line) {
-        Game.ChosenLine = ToInteger(line);
-        ApplyMove();
-    }
-};
+class Moves : public GameTest {};
 
 TEST_F(Moves, ThatGiveABoxAwayBesideATakeableOneAreRefusedAgainstTwoKindsOnly) {
     // On 3 by 1 boxes lines 1 to 3 lie on top, 4 to 6 below, and 7 to 10 stand from the left.
@@ -59,34 +52,6 @@ TEST_F(Moves, OfAPersonThatAreRefusedChangeNothingButThePreview) {
     const int x = Game.FieldLeft + 2 * 375;
     EXPECT_EQ(TheNullDesktop.Drawings.back(),
               (Drawing{Drawing::Kind::Erasure, x, Game.FieldTop + 15, x, Game.FieldTop + 360, 0}));
-}
-
-TEST_F(Moves, ThatPassTheTurnClickAndShineOnlyFromComputerToPerson) {
-    const TestDirectory directory;
-    PutBytes("SndClick.wav", "");
-    for (const Integer mover : {Humanoid, ComputerAverage, ComputerCheat}) {
-        for (const Integer opponent : {Humanoid, ComputerIntelligent}) {
-            StartFresh();
-            SetUpGame(3, 2, mover, opponent);
-            Draw(5);
-            const bool isTold = mover != Humanoid && opponent == Humanoid;
-            EXPECT_EQ(Game.CurrentPlayer, 2);
-            EXPECT_EQ(frmQuibsMain.lblPlayer2Active.Caption, "Guardian's Turn");
-            EXPECT_EQ(Game.ComputerGhostLine, isTold ? 5 : 0);
-            EXPECT_EQ(TheNullDesktop.Drawings.back().DrawnColor, isTold ? LightGreen : BrightWhite);
-            EXPECT_EQ(TheNullDesktop.Sounds.size(), isTold ? 3U : 1U);
-            EXPECT_EQ(TheNullDesktop.Sounds.back(), "Close");
-            EXPECT_NEAR(TheNullDesktop.SecondsWaited, 0.5, 0.02);
-            if (!isTold)
-                continue;
-            Game.CurrentPlayer = 1;
-            Draw(1);
-            const auto& drawings = TheNullDesktop.Drawings;
-            EXPECT_EQ(drawings.at(drawings.size() - 2).FromY, Game.Lines.at(5).Y)
-                << "the former highlight goes";
-            EXPECT_EQ(Game.ComputerGhostLine, 1);
-        }
-    }
 }
 
 } // namespace

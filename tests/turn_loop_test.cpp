@@ -198,17 +198,6 @@ TEST_F(TurnLoop, ObeysInTheMiddleOfEveryWaitAndLosesNoTime) {
         }
 }
 
-TEST_F(TurnLoop, AsksThePersonWhomADialogPutInThePlaceOfAChoosingComputer) {
-    Prepare(2, ComputerIntelligent, ComputerAverage, {1, 2, 3, 4});
-    AfterSeconds(0.5, [] { Game.PlayerKind.at(1) = Humanoid; });
-    TheNullDesktop.WhenIdle = [] {
-        EXPECT_EQ(Game.LinesDrawn, 4);
-        Form_Unload();
-    };
-    RunCommand(Command::Start);
-    EXPECT_TRUE(Game.ProgramEnding);
-}
-
 // Commands that arrive together: the second comes while the question of the first is open.
 TEST_F(TurnLoop, CarriesOutNothingWhileAQuestionIsOpen) {
     for (const Command asking : {Command::Quit, Command::Exit})
@@ -257,13 +246,6 @@ TEST_F(TurnLoop, EndsForWhatBreaksTheGameAndForNothingElse) {
     const auto& boxes = TheNullDesktop.Boxes;
     EXPECT_TRUE(boxes.at(0).Text == damaged && boxes.at(2).Text == damaged);
     EXPECT_EQ(boxes.at(1).Text, "That could not be done, because something unforeseen happened.");
-}
-
-TEST_F(TurnLoop, EndsAFullBoardInsteadOfPausingIt) {
-    Prepare(2, ComputerCheat, Humanoid, {1, 2, 3, 4, 6, 7});
-    AfterSeconds(0.1, mnuPause_Click); // when the cheat has taken the last box itself
-    RunCommand(Command::Start);
-    ExpectPlayedToTheEnd();
 }
 
 TEST_F(TurnLoop, TellsTheEndOfAGameAndBlinksForThreeSecondsUndisturbed) {

@@ -121,7 +121,7 @@ void DoAnything(std::uint32_t number) {
         [](std::uint32_t seed) { OpenDamaged(Damaged(BytesOf("saved.qbs"), seed)); },
         [](std::uint32_t) { OpenGame("saved.qbs"); },
         [](std::uint32_t) { SaveGameAs(".", mayBeDamaged ? "damaged" : "saved"); },
-        [](std::uint32_t) { TheNullDesktop.Clock = 86399.9; }, // midnight is near
+        [](std::uint32_t) { TheNullDesktop.Clock = 86399.5; }, // midnight is near
         [](std::uint32_t) { PressHere(); },
         [](std::uint32_t command) { RunCommand(static_cast<Command>(command % CommandCount)); }};
     constexpr std::uint32_t commands = 10; // as likely as the other things together
@@ -134,8 +134,10 @@ void DoAnything(std::uint32_t number) {
 void PlayAnyGame(std::uint32_t seed, const std::function<void()>& look) {
     std::mt19937 chance(seed);
     StartFresh();
+    Game.TwipsPerPixelX = 12; // or across and down could be mixed up
     Game.GridColumns = ToInteger(1 + static_cast<int>(chance() % 9));
     Game.GridRows = ToInteger(1 + static_cast<int>(chance() % 7));
+    TheNullDesktop.IsListenedTo = chance() % 4 != 0;
     LetPersonsPlay(seed);
     const auto doAnything = [&] { DoAnything(static_cast<std::uint32_t>(chance())); };
     TheNullDesktop.WhenYielding = TheNullDesktop.WhenAsked = [&] {

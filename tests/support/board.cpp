@@ -47,6 +47,11 @@ std::string TextsOf(const MainWindowControls& form) {
 void PrintTo(const MainWindowControls& form, std::ostream* out) {
     *out << TextsOf(form) << "|" << form.lblPlayer1Active.Caption << "|"
          << form.lblPlayer2Active.Caption;
+    for (const auto& [caption, length] : {form.lblPlayer1Active, form.lblPlayer2Active})
+        *out << ", name of " << length;
+    *out << ", marked " << form.fraStatistics.MarkedPlayer << ", field "
+         << form.picPlayingField.BackColor << " "
+         << static_cast<int>(form.picPlayingField.MousePointer);
     for (const auto& shape : {form.shpPlayer1Active, form.shpPlayer2Active, form.shpPlayer3Active,
                               form.shpPlayer4Active, form.shpPlayer1Status, form.shpPlayer2Status})
         *out << (shape.Visible ? ", shape " : ", hidden shape ") << shape.FillColor;
