@@ -53,8 +53,8 @@ public:
     }
 
     // The exit status, or -1 if the program did not end in time or crashed.
-    int WaitForExit(int milliseconds = 10'000) {
-        const bool hasEnded = Program.waitForFinished(milliseconds);
+    int WaitForExit() {
+        const bool hasEnded = Program.waitForFinished(60'000);
         return hasEnded && Program.exitStatus() == QProcess::NormalExit ? Program.exitCode() : -1;
     }
 

@@ -26,7 +26,7 @@ struct Reading {
 };
 
 std::optional<QString> AsText(const std::filesystem::path& name) {
-    const QString text = QFile::decodeName(name.c_str());
+    QString text = QFile::decodeName(name.c_str());
     if (QFile::encodeName(text) != name.c_str())
         return std::nullopt;
     return text;

@@ -21,8 +21,8 @@ struct RichRunFormat {
     bool Bold = false;
     bool Italic = false;
     bool Underline = false;
-    bool Hidden = false;                 // never in a result
-    std::optional<RichColor> Color = {}; // none: whatever colour text has where it is shown
+    bool Hidden = false;                           // never in a result
+    std::optional<RichColor> Color = std::nullopt; // whatever colour text has where it is shown
     int HalfPoints = 24;
     bool operator==(const RichRunFormat&) const = default;
 };
