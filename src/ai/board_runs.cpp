@@ -22,7 +22,6 @@ public:
 private:
     void ReadRunThrough(int box) {
         Run run{.Boxes = 1};
-        IsRead.at(box) = true;
         const int firstLine = FirstUndrawnSide(box);
         run.Ends[0] = Follow(box, firstLine, run.Boxes);
         run.Ends[1] =

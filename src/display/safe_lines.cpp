@@ -10,18 +10,17 @@
 
 namespace {
 
-// The safe lines in any order, each with its place in the list, so that a line that stops being
-// safe is found and taken out at once and a whole opening costs one pass over the board.
+// The safe lines in any order, at first all. Each has its place in the list, so that a line that
+// stops being safe is found and taken out at once and a whole opening costs one pass over the
+// board.
 class SafeLineList {
 public:
     SafeLineList()
         : Lines(Work.ChainLines), PositionOf(static_cast<std::size_t>(Game.LineCount) + 1) {
         Lines.Clear();
         for (int line = 1; line <= Game.LineCount; ++line) {
-            if (Game.Lines.at(line).Drawn == 0 && IsSafeLine(line)) {
-                Lines.Append(ToInteger(line));
-                PositionOf.at(line) = Lines.Count();
-            }
+            Lines.Append(ToInteger(line));
+            PositionOf.at(line) = Lines.Count();
         }
     }
 

@@ -4,5 +4,5 @@
 // Whether neither box beside an undrawn line has two or more sides drawn.
 bool IsSafeLine(int line);
 
-// Draws random safe lines, which belong to no player, until none is left.
+// Draws random safe lines on an empty board, which belong to no player, until none is left.
 void DrawSafeLines();
