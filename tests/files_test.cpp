@@ -40,6 +40,13 @@ TEST_F(Files, AreReplacedWholeOrNotAtAll) {
     EXPECT_EQ(static_cast<int>(std::filesystem::status(File).permissions()), 0640);
 }
 
+TEST_F(Files, ThatTwoWriteAtOnceAreThoseOfTheSecond) {
+    FileReplacement first(File), second(File);
+    EXPECT_TRUE(first.Write("first") && second.Write("second"));
+    EXPECT_EQ(BytesOf(File), "second");
+    EXPECT_EQ(CountFiles(), 1);
+}
+
 TEST_F(Files, AreWrittenOverWhereTheDirectoryTakesNoNewOnes) {
     PutBytes(File, "old");
     constexpr uid_t nobody = 65534; // root may write anywhere

@@ -67,7 +67,7 @@ TEST(RichText, ReadsTextAndTablesEvenBrokenOnes) {
         {"{\\rtf1 a \r\nb\\par\\\n}", "a b||"},
         {"{\\rtf1\\{\\}\\\\\\~\\bullet\\tab x}", "{}\\\u00A0\u2022\tx|"},
         {"{\\rtf1\\'80\\'fE\\'Cf\\'93\\'zz}", "\u20AC\u00FE\u00CF\u201Czz|"},
-        {"{\\rtf1\\uc1 \\u8364?\\u233\\'e9x}", "\u20AC\u00E9x|"},
+        {"{\\rtf1\\uc1 \\u8364?\\u233\\'e9x\\u233\\~y}", "\u20AC\u00E9x\u00E9y|"},
         {"{\\rtf1\\uc2\\u945abc{\\uc0\\u946 d}\\u-10240??\\u-9216??\\u-9216??}",
          "\u03B1c\u03B2d\U00010000\uFFFD|"},
         {"{\\rtf1\\uc0\\u31\\u32.\\u126\\u127\\u159\\u160\\u2047\\u2048}",

@@ -96,6 +96,7 @@ TEST_F(SavedGame, ThatFailsAfterOpeningLeavesTheChannelTakenAndOtherFilesWhole) 
         SaveGame(file);
     }
     EXPECT_EQ(BytesOf("new.qbs"), BytesOf(OneBox));
+    EXPECT_TRUE(std::filesystem::is_fifo("pipe.qbs"));
 
     OnFullDisk(100, [] { SaveGame("cut.qbs"); });
 
