@@ -142,9 +142,8 @@ void PlayAnyGame(std::uint32_t seed, const std::function<void()>& look) {
     const auto doAnything = [&] { DoAnything(static_cast<std::uint32_t>(chance())); };
     TheNullDesktop.WhenYielding = TheNullDesktop.WhenAsked = [&] {
         look();
-        if (chance() % 2 == 0)
+        for (; chance() % 3 == 0; look())
             doAnything();
-        look();
     };
     do {
         doAnything();
