@@ -1,6 +1,7 @@
 #include "core/state/grid.h"
 
 #include <algorithm>
+#include <stdexcept>
 
 int FieldColumns() {
     return Game.PointSpacingX > 0 ? (Game.FieldRight - Game.FieldLeft) / Game.PointSpacingX : 0;
@@ -11,10 +12,13 @@ int FieldRows() {
 }
 
 LinePlace PlaceOf(int line) {
+    const int length = IsVertical(line) ? FieldRows() : FieldColumns();
+    if (length == 0)
+        throw std::out_of_range("a line lies nowhere without a field");
     if (!IsVertical(line))
-        return {false, (line - 1) / FieldColumns(), (line - 1) % FieldColumns()};
+        return {false, (line - 1) / length, (line - 1) % length};
     const int index = line - Game.HorizontalLineCount - 1;
-    return {true, index % FieldRows(), index / FieldRows()};
+    return {true, index % length, index / length};
 }
 
 int LineAt(LinePlace place) {

@@ -17,7 +17,7 @@ struct LinePlace {
     int Row, Column;
 };
 
-LinePlace PlaceOf(int line);
+LinePlace PlaceOf(int line); // an error while there is no field
 int LineAt(LinePlace place);
 
 inline bool IsVertical(int line) {
