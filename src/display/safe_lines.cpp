@@ -71,6 +71,5 @@ void DrawSafeLines() {
         for (const Integer box : BoxesBeside(line))
             AddSide(box, safeLines);
     }
-    Game.ChosenLine = 0;
     ShowLinesStatus();
 }

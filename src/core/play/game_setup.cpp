@@ -28,7 +28,6 @@ void NewGame() {
     BuildField();
 
     ForgetTurn();
-    Game.CurrentPlayer = 0;
     ShowPlayerStatus(1);
     ShowPlayerStatus(2);
     ShowLinesStatus();
