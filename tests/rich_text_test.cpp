@@ -66,7 +66,7 @@ TEST(RichText, ReadsTextAndTablesEvenBrokenOnes) {
     } cases[] = {
         {"{\\rtf1 a \r\nb\\par\\\n}", "a b||"},
         {"{\\rtf1\\{\\}\\\\\\~\\bullet\\tab x}", "{}\\\u00A0\u2022\tx|"},
-        {"{\\rtf1\\'80\\'fE\\'Cf\\'93\\'zz}", "\u20AC\u00FE\u00CF\u201Czz|"},
+        {"{\\rtf1\\'09\\'80\\'fE\\'Cf\\'93\\'zz}", "\t\u20AC\u00FE\u00CF\u201Czz|"},
         {"{\\rtf1\\uc1 \\u8364?\\u233\\'e9x\\u233\\~y}", "\u20AC\u00E9x\u00E9y|"},
         {"{\\rtf1\\uc2\\u945abc{\\uc0\\u946 d}\\u-10240??\\u-9216??\\u-9216??}",
          "\u03B1c\u03B2d\U00010000\uFFFD|"},
@@ -104,6 +104,7 @@ TEST(RichText, BombsStayWithinBounds) {
     }
     EXPECT_LE(ReadRichText("{\\rtf1" + paragraphs + "}").size(), 5000u);
     EXPECT_EQ(Read("{\\rtf1 " + std::string(2001, 'a') + "}").find('|'), 1992u);
+    EXPECT_TRUE(Read("{\\rtf1\\intbl a" + paragraphs + "\\cell\\row}").starts_with("[a|"));
     const RichText wide = ReadRichText("{\\rtf1" + cells + "\\row}");
     EXPECT_EQ(std::get<RichTable>(wide.at(0)).Rows.at(0).Cells.size(), 8u);
 }

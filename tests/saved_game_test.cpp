@@ -178,17 +178,18 @@ TEST_F(SavedGame, IsReadFromAnyLineEndsCommasAndQuotes) {
 
 TEST_F(SavedGame, KeepsEveryName) {
     const std::pair<const char*, const char*> cases[] = {
-        {"Zo\u00eb \u20ac\u0178", "Zo\xeb \x80\x9f"},
+        {"Zo\u00eb\u00a0\u20ac\u0178\u00ff", "Zo\xeb\xa0\x80\x9f\xff"},
         {"\u03a9 \u4e2d \U0001F600", "\u03a9 \u4e2d \U0001F600"},
         {"\u00c3\u00a9", "\u00c3\u00a9"}, // its Windows-1252 would read as another name
-        {"\u0081\u0085", "\u0081\u0085"},
-        {"\U00010000", "\U00010000"}};
+        {"\u0080\u0085", "\u0080\u0085"},
+        {"\u0800\ue000\U00010000\U0010ffff", "\u0800\ue000\U00010000\U0010ffff"}};
     for (const auto& [name, bytes] : cases) {
         EXPECT_EQ(EncodeForFile(name), bytes);
         EXPECT_EQ(DecodeFromFile(bytes), name);
     }
-    for (const std::string noUtf8 : {"\xc0\x80", "\xed\xa0\x80", "\xf4\x90\x80\x80", "\xe2\x82",
-                                     "\xe0\x9f\xbf", "\xf0\x8f\xbf\xbf", "a\xff", "\xc3"})
+    for (const std::string noUtf8 :
+         {"\xc0\x80", "\xed\xa0\x80", "\xed\xbf\xbf", "\xf4\x90\x80\x80", "\xe2\x82",
+          "\xe0\x9f\xbf", "\xf0\x8f\xbf\xbf", "a\xff", "\xc3"})
         EXPECT_NE(DecodeFromFile(noUtf8), noUtf8);
 }
 
