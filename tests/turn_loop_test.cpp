@@ -248,43 +248,6 @@ TEST_F(TurnLoop, EndsForWhatBreaksTheGameAndForNothingElse) {
     EXPECT_EQ(boxes.at(1).Text, "That could not be done, because something unforeseen happened.");
 }
 
-TEST_F(TurnLoop, TellsTheEndOfAGameAndBlinksForThreeSecondsUndisturbed) {
-    const struct {
-        Integer Kind;
-        int Player;             // to move; player 1 has all boxes that are complete
-        std::vector<int> Drawn; // on two boxes
-        const char* Captions;
-        Color Fill;
-        int ComputerSounds;
-    } cases[] = {{ComputerAverage, 1, {1, 3, 5, 6, 2, 4}, "The Winner Is:|Colossus", LightRed, 1},
-                 {Humanoid, 1, {1, 2, 3, 4, 5, 6, 7}, "The Winner Is:|Colossus", LightRed, 0},
-                 {ComputerAverage, 2, {1, 3, 5, 6, 2, 4}, "It's A Draw.|", Black, 0}};
-    for (const auto& c : cases) {
-        StartFresh();
-        Game.PlayerColor.at(1) = LightRed;
-        frmQuibsMain.shpPlayer4Active.FillColor = LightGreen;
-        Game.ComputerWinSounds = {{"none"}, 0};
-        Prepare(2, c.Kind, c.Kind, c.Drawn);
-        Game.CurrentPlayer = ToInteger(c.Player);
-        LetPersonsPlay(1);
-        std::string blinks;
-        TheNullDesktop.WhenYielding = [&blinks] {
-            if (!Game.GameOverShown)
-                return;
-            mnuPause_Click();
-            mnuQuit_Click();
-            blinks += VisibleMarkers() == 3 ? '1' : VisibleMarkers() == 12 ? '2' : '?';
-        };
-        RunCommand(Command::Start);
-        EXPECT_EQ(blinks, "121212121212");
-        EXPECT_NEAR(TheNullDesktop.SecondsWaited, 3.125, 0.2); // 3, or 3.25 with a computer
-        EXPECT_EQ(Captions(), c.Captions);
-        EXPECT_EQ(frmQuibsMain.shpPlayer4Active, (Shape{c.Fill, true}));
-        EXPECT_EQ(Game.ComputerWinSounds.Next, c.ComputerSounds);
-        ExpectPlayedToTheEnd();
-    }
-}
-
 TEST_F(TurnLoop, TakesExchangeOnlyForAPreparedGame) {
     Prepare(1, ComputerAverage, Humanoid, {1, 2, 3});
     AfterSeconds(1.6, [] { RunCommand(Command::Draw); });
