@@ -62,7 +62,6 @@ void TakeAsCheat(int captureBox) {
     CheatTakeBoxes();
     if (!IsDrawn(Game.ChosenLine))
         return;
-    Game.ChosenLine = 0;
     if (const int nextBox = FindCaptureBox(); nextBox != 0)
         Game.ChosenLine = ToInteger(FirstUndrawnSide(nextBox));
     else
