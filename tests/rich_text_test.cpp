@@ -103,7 +103,14 @@ TEST(RichText, BombsStayWithinBounds) {
         cells += "\\cell";
     }
     EXPECT_LE(ReadRichText("{\\rtf1" + paragraphs + "}").size(), 5000u);
-    EXPECT_EQ(Read("{\\rtf1 " + std::string(2001, 'a') + "}").find('|'), 1992u);
+    const std::pair<const char*, std::size_t> letters[] = {
+        {"a", 1992}, {"\\u591?", 2 * 1992}, {"\\u592?", 2 * 249}, {"\\tab ", 125}};
+    for (const auto& [letter, bytes] : letters) {
+        std::string text;
+        for (int count = 0; count < 2001; ++count)
+            text += letter;
+        EXPECT_EQ(Read("{\\rtf1 " + text + "}").find('|'), bytes) << letter;
+    }
     EXPECT_TRUE(Read("{\\rtf1\\intbl a" + paragraphs + "\\cell\\row}").starts_with("[a|"));
     const RichText wide = ReadRichText("{\\rtf1" + cells + "\\row}");
     EXPECT_EQ(std::get<RichTable>(wide.at(0)).Rows.at(0).Cells.size(), 8u);

@@ -137,25 +137,33 @@ TEST_F(SavedGame, InWhichItIsNobodysTurnGivesWayToAnyOther) {
 }
 
 TEST_F(SavedGame, IsPlayedToItsEndOrToldToBeDamagedWhereItBegins) {
-    std::string fates; // when that value is 9: P = played, D = told to be damaged, - = not opened
-    for (int line = 1; line <= 81; ++line) {
-        OpenWith(line, "9", TwoBoxes);
-        if (!Game.GamePaused) {
-            fates += '-';
-            continue;
+    // What comes of a value in each line: P = played, D = told to be damaged, - = not opened.
+    const std::pair<const char*, const char*> cases[] = {
+        {"1", "DDPPPPPPPPPDPPDDDDDDPPPPPPDPPDDDPDDDDDDPD"
+              "PPPPPPDDDPDDDDDPDDPDDDDDDPDDDPPDDPDDDDDD"},
+        {"9", "DDPPPPPDPPPDPDDDDDD-PPPPPPDDDDDDDDDDDDDP-"
+              "PPPPPPDDDDDDDDDPDDDDDDDDDPDDDDPDDDDDDDDD"}};
+    for (const auto& [value, expected] : cases) {
+        std::string fates;
+        for (int line = 1; line <= 81; ++line) {
+            OpenWith(line, value, TwoBoxes);
+            if (!Game.GamePaused) {
+                fates += '-';
+                continue;
+            }
+            const bool isShown = !TheNullDesktop.Drawings.empty();
+            LetPersonsPlay(1);
+            TheNullDesktop.Answers = {MessageAnswer::Ok};
+            RunGuarded([] { RunCommand(Command::Start); });
+            const bool isPlayed =
+                Game.BoxCount == 2 && Game.BoxesClaimed == 2 && Game.LinesDrawn == 7;
+            EXPECT_EQ(isPlayed, isShown) << line;
+            EXPECT_EQ(isPlayed, TheNullDesktop.Boxes.empty()) << line;
+            EXPECT_TRUE(IsEnabled(Command::Open) && !Game.GameInPlay && !Game.GamePaused) << line;
+            fates += isPlayed ? 'P' : 'D';
         }
-        const bool isShown = !TheNullDesktop.Drawings.empty();
-        LetPersonsPlay(1);
-        TheNullDesktop.Answers = {MessageAnswer::Ok};
-        RunGuarded([] { RunCommand(Command::Start); });
-        const bool isPlayed = Game.BoxCount == 2 && Game.BoxesClaimed == 2 && Game.LinesDrawn == 7;
-        EXPECT_EQ(isPlayed, isShown) << line;
-        EXPECT_EQ(isPlayed, TheNullDesktop.Boxes.empty()) << line;
-        EXPECT_TRUE(IsEnabled(Command::Open) && !Game.GameInPlay && !Game.GamePaused) << line;
-        fates += isPlayed ? 'P' : 'D';
+        EXPECT_EQ(fates, expected) << value;
     }
-    EXPECT_EQ(fates, "DDPPPPPDPPPDPDDDDDD-PPPPPPDDDDDDDDDDDDDP-"
-                     "PPPPPPDDDDDDDDDPDDDDDDDDDPDDDDPDDDDDDDDD");
 }
 
 TEST_F(SavedGame, IsReadFromAnyLineEndsCommasAndQuotes) {
