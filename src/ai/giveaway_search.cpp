@@ -5,6 +5,8 @@
 #include <cstdint>
 #include <limits>
 #include <numeric>
+#include <span>
+#include <tuple>
 #include <utility>
 
 #include "core/state/game_state.h"
@@ -13,8 +15,6 @@
 namespace {
 
 constexpr int FirstRound = 4;
-constexpr int RoundsApart = 1;
-constexpr int FirstRoundOfAllReplies = 4;
 constexpr int RunsOfWideRounds = 12; // left out of those that a round follows everything of
 constexpr std::size_t CheapestFollowed = 2;
 constexpr std::size_t CheapestFollowedWithDeclining = 3; // of a cheat and of a person
@@ -22,6 +22,7 @@ constexpr std::size_t CheapestFollowedWithDeclining = 3; // of a cheat and of a 
 constexpr long ChoicesPerStep = 16;    // to look through
 constexpr long RunsEnteredPerStep = 4; // into the catalogue
 constexpr long StepsBetweenYields = 4'000;
+constexpr std::size_t OpenedAtOnce = 64; // before the steps of it are counted
 
 constexpr int MostChoices = 1 << 15; // of any field
 
@@ -70,23 +71,25 @@ std::vector<int> GiveawaySearch::Judge(const std::vector<Run>& runs,
     std::vector<int> order(candidates.size());
     std::iota(order.begin(), order.end(), 0);
     try {
-        for (Round = FirstRound;; Round += RoundsApart) {
-            const bool isExact = Round >= Left.Runs - 1; // all behind the first giveaway
+        bool isExact = false;
+        for (Round = FirstRound; !isExact; ++Round) {
+            isExact = Round >= Left.Runs - 1; // all behind the first giveaway
             std::ranges::stable_sort(order, {}, [&](int i) { return -margins.at(i); });
             marginsBefore = std::exchange(margins, std::vector(candidates.size(), Unjudged));
             Turn turn;
-            for (const int i : order)
-                if (const RunPlace place = places.at(candidates.at(i));
-                    isExact || !IsDominated(place, smallest)) {
-                    margins.at(i) = ValueOfGiveaway(turn, place);
-                    turn.Low = std::max(turn.Low, margins.at(i) - SameAs - 1);
-                }
-            if (isExact)
-                return margins;
+            for (const int i : order) {
+                const RunPlace place = places.at(candidates.at(i));
+                if (!isExact && IsDominated(place, smallest))
+                    continue;
+                margins.at(i) = ValueOfGiveaway(turn, place);
+                turn.Low = std::max(turn.Low, margins.at(i) - SameAs - 1);
+            }
         }
     } catch (const Interruption&) {
-        return margins.at(order.front()) == Unjudged ? marginsBefore : margins;
+        if (margins.at(order.front()) == Unjudged)
+            return marginsBefore;
     }
+    return margins;
 }
 
 int GiveawaySearch::ValueOf(Turn turn) {
@@ -99,8 +102,11 @@ int GiveawaySearch::ValueOf(Turn turn) {
     int count = 0;
     for (std::size_t i = first; i < end && best < turn.High; ++i) {
         if (i == first + 1) // where the first is not good enough, all may be asked for
-            for (std::size_t next = i; next < end; ++next)
+            for (std::size_t next = i; next < end; ++next) {
                 Values.Fetch(Left.Code + Catalogue.Open(Followed.at(next).Place).CodeChange);
+                if ((next - first) % OpenedAtOnce == 0)
+                    CountSteps(0);
+            }
         const Choice choice = Followed.at(i);
         const int value = ValueOfGiveaway(turn, choice.Place);
         sum += std::int64_t{choice.Count} * value;
@@ -121,8 +127,7 @@ void GiveawaySearch::FollowChoices(const Turn& turn) {
     const LoneRuns smallest = SmallestLoneRuns();
     for (const auto& [piece, count] : Left.Shares) {
         const Run& run = piece->Runs.front();
-        if (piece->RunCount() == 1 && run.IsRing() && run.Boxes == 4 && !isAverage &&
-            OpponentKindOf(turn).Declines) {
+        if (run.IsRing() && run.Boxes == 4 && !isAverage && OpponentKindOf(turn).Declines) {
             Followed.resize(first);
             Followed.push_back({{piece, 0}, count});
             return;
@@ -134,16 +139,19 @@ void GiveawaySearch::FollowChoices(const Turn& turn) {
             Followed.push_back({place, count, MostChoices * CostOf(turn, place) + number});
         }
     }
-    std::sort(Followed.begin() + static_cast<std::ptrdiff_t>(first), Followed.end(),
-              [](const Choice& a, const Choice& b) { return a.Rank < b.Rank; });
+    const auto choices = std::span(Followed).subspan(first);
+    const auto kept = choices.first(std::min(choices.size(), MostFollowed(turn)));
+    std::ranges::nth_element(choices, kept.end(), {}, &Choice::Rank);
+    std::ranges::sort(kept, {}, &Choice::Rank);
+    Followed.resize(first + kept.size());
     const Integer fewest = Followed.at(first).Place.Given().Boxes;
     while (isAverage && Followed.back().Place.Given().Boxes > fewest)
         Followed.pop_back();
-    if (!turn.FollowsAll)
-        Followed.resize(std::min(Followed.size(), first + MostFollowed(turn)));
 }
 
 std::size_t GiveawaySearch::MostFollowed(const Turn& turn) const {
+    if (turn.FollowsAll)
+        return MostChoices;
     if (AllRuns - Round > RunsOfWideRounds || KindOf(turn).GivesLeast)
         return 1;
     const bool mayDecline = KindOf(turn).Declines || !KindOf(turn).IsComputer;
@@ -164,8 +172,8 @@ GiveawaySearch::LoneRuns GiveawaySearch::SmallestLoneRuns() const {
 // is possible with the other, provided that both players choose for the best.
 bool GiveawaySearch::IsDominated(RunPlace place, const LoneRuns& smallest) const {
     const Run& run = place.Opened();
-    return place.Of->RunCount() == 1 && run.Boxes > smallest.at(MannerOf(run)) &&
-           !Kinds[0].GivesLeast && !Kinds[1].GivesLeast;
+    return !Kinds[1].GivesLeast && place.Of->RunCount() == 1 &&
+           run.Boxes > smallest.at(MannerOf(run));
 }
 
 // Runs of one manner are declined in the same way; where everything is taken, all are alike.
@@ -190,69 +198,58 @@ int GiveawaySearch::CostOf(const Turn& turn, RunPlace place) const {
 
 // The row of a run, with the line in it as its player draws it.
 int GiveawaySearch::ValueOfGiveaway(const Turn& turn, RunPlace place) {
-    const int behind = place.Given().Behind;
-    const bool isPair = place.Given().Boxes == 2;
+    const Giveaway& given = place.Given();
     if (!KindOf(turn).IsComputer) {
         const int whole = ValueOfOpening(turn, place, true);
-        return isPair && whole < turn.High ? std::max(whole, ValueOfOpening(turn, place, false))
-                                           : whole;
+        return given.Boxes != 2 || whole >= turn.High
+                   ? whole
+                   : std::max(whole, ValueOfOpening(turn, place, false));
     }
-    if (isPair && !KindOf(turn).GivesLeast)
+    if (given.Boxes == 2 && !KindOf(turn).GivesLeast)
         return ValueOfOpening(turn, place, true);
-    const int own = ValueOfAnyLine(turn, place);
-    if (behind < 0)
+    int own = ValueOfAnyLine(turn, place);
+    if (given.Behind < 0)
         return own;
-    const RunPlace placeBehind{place.Of, behind};
-    const int ownLines = place.Opened().LineCount();
-    const int linesBehind = placeBehind.Opened().LineCount();
-    const auto mean = [&](std::int64_t first, std::int64_t second) {
-        return static_cast<int>((ownLines * first + linesBehind * second) /
-                                (ownLines + linesBehind));
-    };
-    const int other = ValueOfAnyLine(turn, placeBehind);
-    const auto [less, more] = std::minmax(own, other);
-    if (more <= turn.Low || less >= turn.High || (less > turn.Low && more < turn.High))
-        return mean(own, other);
-    const Turn open{turn.Level, turn.Player, turn.FollowsAll};
-    const int openOwn = ValueOfAnyLine(open, place); // first, on every compiler: steps may end
-    return mean(openOwn, ValueOfAnyLine(open, placeBehind));
+    const RunPlace placeBehind{place.Of, given.Behind};
+    int behind = ValueOfAnyLine(turn, placeBehind);
+    if (turn.SideOf(own) != turn.SideOf(behind)) {
+        own = ValueOfAnyLine(turn.WithoutBounds(), place);
+        behind = ValueOfAnyLine(turn.WithoutBounds(), placeBehind);
+    }
+    const std::int64_t ownLines = place.Opened().LineCount();
+    const std::int64_t linesBehind = placeBehind.Opened().LineCount();
+    return static_cast<int>((ownLines * own + linesBehind * behind) / (ownLines + linesBehind));
 }
 
 // The mean over the lines of the run. Two boxes are left whole by one line of three.
 int GiveawaySearch::ValueOfAnyLine(const Turn& turn, RunPlace place) {
-    if (place.Given().Boxes != 2 ||
-        (OpponentKindOf(turn).IsComputer && !OpponentKindOf(turn).Declines))
+    const KindTraits& taker = OpponentKindOf(turn);
+    if (place.Given().Boxes != 2 || (taker.IsComputer && !taker.Declines))
         return ValueOfOpening(turn, place, true);
-    const Turn open{turn.Level, turn.Player, turn.FollowsAll};
-    const int whole = ValueOfOpening(open, place, true);
-    return (whole + 2 * ValueOfOpening(open, place, false)) / 3;
+    const int whole = ValueOfOpening(turn.WithoutBounds(), place, true);
+    return (whole + 2 * ValueOfOpening(turn.WithoutBounds(), place, false)) / 3;
 }
 
 // `leavesPairWhole` tells, of two boxes, that the line between them was drawn, so that both must be
-// taken or neither.
+// taken or neither. A cheat takes what ends the game.
 int GiveawaySearch::ValueOfOpening(const Turn& turn, RunPlace place, bool leavesPairWhole) {
     const Giveaway& given = Catalogue.Open(place);
-    const auto valueOfTaking = [&](const Turn& within) {
-        return ValueAfter(within, place, -Box * given.Boxes, 1 - turn.Player);
-    };
-    const auto valueOfDeclining = [&] {
-        const int margin = 2 * BoxesDeclined(place.Opened()) - given.Boxes;
-        return ValueAfter(turn, place, Box * margin, turn.Player);
-    };
-    const bool endsTheGame = Left.Runs + given.RunChange == 0;
-    if (given.Boxes < 2 || (given.Boxes == 2 && leavesPairWhole))
-        return valueOfTaking(turn);
-    if (OpponentKindOf(turn).Declines)
-        return endsTheGame && given.Boxes > 2 ? valueOfTaking(turn) : valueOfDeclining();
-    const bool mayDecline = !OpponentKindOf(turn).IsComputer && KindOf(turn).Declines;
-    if (!mayDecline)
-        return valueOfTaking(turn);
-    const int declined = valueOfDeclining();
-    if (declined <= turn.Low)
-        return declined;
+    const KindTraits& taker = OpponentKindOf(turn);
+    const bool isLong = given.Boxes > 2;
+    const bool isLast = isLong && Left.Runs + given.RunChange == 0;
+    const bool mayDecline =
+        taker.IsComputer ? taker.Declines && !isLast : KindOf(turn).AllowsAnyLine;
     Turn unlessDeclined = turn;
-    unlessDeclined.High = std::min(declined, turn.High);
-    return std::min(declined, valueOfTaking(unlessDeclined));
+    int declined = -Unjudged;
+    if (mayDecline && (isLong || (given.Boxes == 2 && !leavesPairWhole))) {
+        const int margin = 2 * BoxesDeclined(place.Opened()) - given.Boxes;
+        declined = ValueAfter(turn, place, Box * margin, turn.Player);
+        if (taker.Declines || declined <= turn.Low)
+            return declined;
+        unlessDeclined.High = std::min(declined, turn.High);
+    }
+    const int taken = ValueAfter(unlessDeclined, place, -Box * given.Boxes, 1 - turn.Player);
+    return std::min(declined, taken);
 }
 
 // The margin when `gained` came of what was given in `turn` and it is `nextPlayer` who must give
@@ -262,13 +259,12 @@ int GiveawaySearch::ValueAfter(const Turn& turn, RunPlace place, int gained, int
     if (runsLeft == 0)
         return gained;
     const bool isExact = runsLeft <= Round;
-    const bool isReply = turn.Level == 0 && nextPlayer == 1 && !Kinds[0].Declines;
-    Turn next{turn.Level + 1, nextPlayer, isExact || (isReply && Round >= FirstRoundOfAllReplies)};
+    const bool isReply = turn.IsFirst && nextPlayer == 1 && !Kinds[0].Declines;
     const int sign = nextPlayer == turn.Player ? 1 : -1;
-    if (!KindOf(next).GivesLeast) {
-        next.Low = sign * ((sign > 0 ? turn.Low : turn.High) - gained);
-        next.High = sign * ((sign > 0 ? turn.High : turn.Low) - gained);
-    }
+    Turn next{nextPlayer, false, isExact || isReply};
+    if (!KindOf(next).GivesLeast)
+        std::tie(next.Low, next.High) =
+            std::minmax({sign * (turn.Low - gained), sign * (turn.High - gained)});
     // Exact values serve every round, others only their own.
     const std::uint32_t kind = 4U * (isExact ? 0 : Round) + 2U * next.FollowsAll + nextPlayer;
     const std::uint64_t code = Left.Code + place.Given().CodeChange;
@@ -292,11 +288,8 @@ int GiveawaySearch::ValueAfter(const Turn& turn, RunPlace place, int gained, int
 void GiveawaySearch::CountSteps(long steps) {
     const long before = StepsLeft;
     StepsLeft -= steps + Catalogue.TakeSteps() / RunsEnteredPerStep;
-    if (before / StepsBetweenYields != StepsLeft / StepsBetweenYields) {
+    if (before / StepsBetweenYields != StepsLeft / StepsBetweenYields)
         YieldToEvents(0);
-        if (Game.ProgramEnding || Game.QuitRequested)
-            throw Interruption{};
-    }
-    if (StepsLeft < 0)
+    if (StepsLeft < 0 || Game.ProgramEnding || Game.QuitRequested)
         throw Interruption{};
 }

@@ -66,11 +66,14 @@ private:
     // Somebody's turn to give away. A margin outside of `Low` and `High` is of no account: it may
     // come out as any on the same side.
     struct Turn {
-        int Level = 0;  // turns before it
         int Player = 0; // 0 = the one the search is for, 1 = the opponent
+        bool IsFirst = true;
         bool FollowsAll = true;
         int Low = Unjudged;
         int High = -Unjudged;
+
+        Turn WithoutBounds() const { return {Player, IsFirst, FollowsAll}; }
+        int SideOf(int margin) const { return margin <= Low ? -1 : margin >= High ? 1 : 0; }
     };
 
     const KindTraits& KindOf(const Turn& turn) const { return Kinds.at(turn.Player); }

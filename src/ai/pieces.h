@@ -4,7 +4,6 @@
 
 #include <array>
 #include <cstdint>
-#include <deque>
 #include <string>
 #include <unordered_map>
 #include <utility>
@@ -71,7 +70,6 @@ public:
 private:
     Piece& Intern(const std::vector<Run>& runs);
 
-    std::deque<Piece> Pieces;
-    std::unordered_map<std::u16string, Piece*> Known;
+    std::unordered_map<std::u16string, Piece> Pieces; // no address ever changes
     long StepsDone = 0;
 };
