@@ -39,9 +39,9 @@ std::string Read(const std::string& rtf) {
 } // namespace
 
 TEST(RichText, ReadsTheFormatsOfRunsAndParagraphs) {
-    const RichText document =
-        ReadRichText("{\\rtf1{\\colortbl;\\red1\\green2\\blue3;}\\qc\\li400\\fi-400\\sa99999\n"
-                     "a{\\b\\cf1\\fs30 b\\b0 c}{\\i\\ul d}\\cf7 e\\par\\pard\\plain f\\par}");
+    const RichText document = ReadRichText(
+        "{\\rtf1{\\colortbl x;\\red1\\green2\\blue3;}\\qc\\li400\\fi-400\\sa99999\n"
+        "a{\\b\\cf1\\fs30 b\\b0 c}{\\i\\ul d\\ulnone g}\\cf7 e\\par\\pard\\plain f\\par}");
     ASSERT_EQ(document.size(), 2u);
     const auto& first = std::get<RichParagraph>(document.at(0));
     EXPECT_EQ(first.Format.Alignment, RichAlignment::Center);
@@ -53,6 +53,7 @@ TEST(RichText, ReadsTheFormatsOfRunsAndParagraphs) {
                                              {.Bold = true, .Color = color, .HalfPoints = 30},
                                              {.Color = color, .HalfPoints = 30},
                                              {.Italic = true, .Underline = true},
+                                             {.Italic = true},
                                              {}}; // the last has a colour that is in no table
     ASSERT_EQ(first.Runs.size(), formats.size());
     for (std::size_t run = 0; run < formats.size(); ++run)
@@ -65,17 +66,20 @@ TEST(RichText, ReadsTextAndTablesEvenBrokenOnes) {
         std::string Rtf, Text;
     } cases[] = {
         {"{\\rtf1 a \r\nb\\par\\\n}", "a b||"},
+        {"{\\rtf1\\azAZ-x}", "-x|"},
         {"{\\rtf1\\{\\}\\\\\\~\\bullet\\tab x}", "{}\\\u00A0\u2022\tx|"},
-        {"{\\rtf1\\'09\\'80\\'fE\\'Cf\\'93\\'zz}", "\t\u20AC\u00FE\u00CF\u201Czz|"},
-        {"{\\rtf1\\uc1 \\u8364?\\u233\\'e9x\\u233\\~y}", "\u20AC\u00E9x\u00E9y|"},
+        {"{\\rtf1\\'09\\'80\\'fE\\'Cf\\'93\\'aF\\'Ae\\'zz}",
+         "\t\u20AC\u00FE\u00CF\u201C\u00AF\u00AEzz|"},
+        {"{\\rtf1\\uc1 \\u8364?\\u233\\'e9x\\u233\\~y\\u233\\tab z\\u233{w}{\\u233}v}",
+         "\u20AC\u00E9x\u00E9y\u00E9z\u00E9w\u00E9v|"},
         {"{\\rtf1\\uc2\\u945abc{\\uc0\\u946 d}\\u-10240??\\u-9216??\\u-9216??}",
          "\u03B1c\u03B2d\U00010000\uFFFD|"},
         {"{\\rtf1\\uc0\\u31\\u32.\\u126\\u127\\u159\\u160\\u2047\\u2048}",
          " .~\u00A0\u07FF\u0800|"},
         {"{\\rtf1\\uc0\\u8233\\u8234\\u8238\\u8239\\u8293\\u8294\\u8297\\u8298}",
          "\u202F\u2065\u206A|"},
-        {"{\\rtf1\\uc0\\u-561\\u-560\\u-529\\u-528\\u-5\\u-4\\u-3\\u-2}",
-         "\uFDCF\uFDF0\uFFFB\uFFFD|"},
+        {"{\\rtf1\\uc0\\u-10240\\u-8192\\u-9216\\u-561\\u-560\\u-529\\u-528\\u-5\\u-4\\u-3\\u-2}",
+         "\uE000\uFFFD\uFDCF\uFDF0\uFFFB\uFFFD|"},
         {"{\\rtf1{\\fonttbl{\\f0 F;}}{\\*\\new {x}y}{\\info z}{\\pict\\bin3 }}}}\\v h\\v0 s}",
          "s|"},
         {"{\\rtf1{\\field{\\*\\fldinst L}{\\fldrslt link}}}behind", "link|"},
@@ -83,11 +87,15 @@ TEST(RichText, ReadsTextAndTablesEvenBrokenOnes) {
          "d\\par}",
          "[a|b|;;][c|;]d|"},
         {"{\\rtf1\\intbl a\\cell b\\pard c\\par\\row d\\cell}", "[a|;]bc|[d|;]"},
+        {"{\\rtf1\\intbl a\\par\\row b\\row}", "[a|;][b|;]"},
         {"{\\rtf1\\row\\cell\\row\\row}", "[;]"},
     };
     for (const auto& [rtf, text] : cases)
         EXPECT_EQ(Read(rtf), text) << rtf;
-    for (const char* broken : {"", "text", "{\\rt", "{\\rtf1 a", "{\\rtf1 a{}", "{\\rtf1 \\"})
+    EXPECT_EQ(ReadRichText("{\\rtf1\\cell\\row\\cell\\row\\cell\\cell\\row\\cell\\row}").size(), 2u)
+        << "tables";
+    for (const char* broken :
+         {"", "text", "{\\rt", "{\\rtf1 a", "{\\rtf1 a{}", "{\\rtf1 \\", "{\\rtf1\\b-"})
         EXPECT_TRUE(ReadRichText(broken).empty()) << broken;
 }
 
@@ -96,7 +104,9 @@ TEST(RichText, BombsStayWithinBounds) {
     const std::string close(50'000, '}');
     EXPECT_EQ(Read("{\\rtf1 " + open + "deep" + close + "x}"), "x|");
     EXPECT_TRUE(ReadRichText("{\\rtf1 " + std::string(2 << 20, 'a') + "}").empty());
-    EXPECT_LT(Read("{\\rtf1 " + std::string(1'000'000, 'a') + "}").size(), 65'000u);
+    const std::string longText(1'000'000, 'a');
+    EXPECT_EQ(Read("{\\rtf1 " + longText + "}").size(), 64537u);
+    EXPECT_EQ(Read("{\\rtf1\\fs144 " + longText + "}").size(), 10860u);
     std::string paragraphs, cells;
     for (int count = 0; count < 100'000; ++count) {
         paragraphs += "\\par";
@@ -112,6 +122,7 @@ TEST(RichText, BombsStayWithinBounds) {
         EXPECT_EQ(Read("{\\rtf1 " + text + "}").find('|'), bytes) << letter;
     }
     EXPECT_TRUE(Read("{\\rtf1\\intbl a" + paragraphs + "\\cell\\row}").starts_with("[a|"));
-    const RichText wide = ReadRichText("{\\rtf1" + cells + "\\row}");
+    const RichText wide = ReadRichText("{\\rtf1\\cellx7\\trowd\\cellx9" + cells + "\\row}");
     EXPECT_EQ(std::get<RichTable>(wide.at(0)).Rows.at(0).Cells.size(), 8u);
+    EXPECT_EQ(std::get<RichTable>(wide.at(0)).Rows.at(0).RightEdges, std::vector{9});
 }

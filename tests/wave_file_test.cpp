@@ -13,4 +13,8 @@ TEST(WaveFiles, AreRefusedWhereTheyLieOrAreCompressed) {
         {28, "\x01"}, {32, "\x04"}, {40, "\x07"}, {43, "\xFF"}};
     for (const auto& [place, lie] : lies)
         EXPECT_FALSE(ReadWave(std::string(good).replace(place, lie.size(), lie))) << place;
+    // The slowest and the fastest of one channel with 16 bits.
+    for (const std::string& rates :
+         {std::string("\x64\0\0\0\xC8\0\0\0", 8), std::string("\0\xEE\x02\0\0\xDC\x05\0", 8)})
+        EXPECT_TRUE(ReadWave(std::string(good).replace(24, 8, rates)));
 }
