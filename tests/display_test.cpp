@@ -1,31 +1,12 @@
-// What the player reads in the status panel and hears.
+// What the player hears, and how colours are named.
 #include "display/color_words.h"
 #include "display/sound.h"
-#include "display/status_panel.h"
-#include "support/files.h"
 #include "support/game_test.h"
 #include "ui/commands.h"
 
 namespace {
 
 class DisplayTest : public GameTest {};
-
-TEST_F(DisplayTest, ShowsNumbersRightAlignedInFiveCharacters) {
-    EXPECT_EQ(TextsOf(frmQuibsMain),
-              "Colossus:     0     Intelligent|Guardian:     0     Average||");
-    EXPECT_EQ(frmQuibsMain.shpPlayer2Status.FillColor, BrightWhite);
-    SetUpGame(10, 10, ComputerAverage, ComputerCheat);
-    EXPECT_EQ(TextsOf(frmQuibsMain), "Colossus:     0     Average|Guardian:     0     Cheat|"
-                                     "Boxes:     0 of   100|Lines:     0 of   220");
-    Game.PlayerName.at(2) = "<b>Bo</b>";
-    Game.PlayerScore.at(2) = 32767;
-    ShowPlayerStatus(2);
-    EXPECT_EQ(frmQuibsMain.txtPlayer2Status.Text, "<b>Bo</b>: 32767     Cheat");
-    Game.PlayerScore.at(2) = -5;
-    Game.PlayerKind.at(2) = 4; // of no player, from a file
-    ShowPlayerStatus(2);
-    EXPECT_EQ(frmQuibsMain.txtPlayer2Status.Text, "<b>Bo</b>:    -5     Humanoid");
-}
 
 TEST_F(DisplayTest, PlaysTheSoundsThatAreThereInTurnWhileTheyAreWanted) {
     const TestDirectory directory;
