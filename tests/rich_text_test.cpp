@@ -72,7 +72,7 @@ TEST(RichText, ReadsTextAndTablesEvenBrokenOnes) {
          "\t\u20AC\u00FE\u00CF\u201C\u00AF\u00AEzz|"},
         {"{\\rtf1\\uc1 \\u8364?\\u233\\'e9x\\u233\\~y\\u233\\tab z\\u233{w}{\\u233}v}",
          "\u20AC\u00E9x\u00E9y\u00E9z\u00E9w\u00E9v|"},
-        {"{\\rtf1\\uc2\\u945abc{\\uc0\\u946 d}\\u-10240??\\u-9216??\\u-9216??}",
+        {"{\\rtf1\\uc2\\u945\\~bc{\\uc0\\u946 d}\\u-10240??\\u-9216??\\u-9216??}",
          "\u03B1c\u03B2d\U00010000\uFFFD|"},
         {"{\\rtf1\\uc0\\u31\\u32.\\u126\\u127\\u159\\u160\\u2047\\u2048}",
          " .~\u00A0\u07FF\u0800|"},
@@ -117,12 +117,12 @@ TEST(RichText, BombsStayWithinBounds) {
         {"a", 1992}, {"\\u591?", 2 * 1992}, {"\\u592?", 2 * 249}, {"\\tab ", 125}};
     for (const auto& [letter, bytes] : letters) {
         std::string text;
-        for (int count = 0; count < 2001; ++count)
+        for (int count = 0; count < 4001; ++count)
             text += letter;
-        EXPECT_EQ(Read("{\\rtf1 " + text + "}").find('|'), bytes) << letter;
+        EXPECT_EQ(Read("{\\rtf1 " + text + "}").find('|', bytes + 1), 2 * bytes + 1) << letter;
     }
     EXPECT_TRUE(Read("{\\rtf1\\intbl a" + paragraphs + "\\cell\\row}").starts_with("[a|"));
-    const RichText wide = ReadRichText("{\\rtf1\\cellx7\\trowd\\cellx9" + cells + "\\row}");
+    const RichText wide = ReadRichText("{\\rtf1\\cellx7\\trowd\\cellx0\\cellx9" + cells + "\\row}");
     EXPECT_EQ(std::get<RichTable>(wide.at(0)).Rows.at(0).Cells.size(), 8u);
-    EXPECT_EQ(std::get<RichTable>(wide.at(0)).Rows.at(0).RightEdges, std::vector{9});
+    EXPECT_EQ(std::get<RichTable>(wide.at(0)).Rows.at(0).RightEdges, (std::vector{0, 9}));
 }
