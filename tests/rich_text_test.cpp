@@ -72,8 +72,9 @@ TEST(RichText, ReadsTextAndTablesEvenBrokenOnes) {
          "\t\u20AC\u00FE\u00CF\u201C\u00AF\u00AEzz|"},
         {"{\\rtf1\\uc1 \\u8364?\\u233\\'e9x\\u233\\~y\\u233\\tab z\\u233{w}{\\u233}v}",
          "\u20AC\u00E9x\u00E9y\u00E9z\u00E9w\u00E9v|"},
-        {"{\\rtf1\\uc2\\u945\\~bc{\\uc0\\u946 d}\\u-10240??\\u-9216??\\u-9216??}",
-         "\u03B1c\u03B2d\U00010000\uFFFD|"},
+        {"{\\rtf1\\uc2\\u945\\~bc{\\uc0\\u946 "
+         "d}\\u-10240??\\u-9216??\\u-9217??\\u-8195??\\u-9216??}",
+         "\u03B1c\u03B2d\U00010000\U0010FFFD\uFFFD|"},
         {"{\\rtf1\\uc0\\u31\\u32.\\u126\\u127\\u159\\u160\\u2047\\u2048}",
          " .~\u00A0\u07FF\u0800|"},
         {"{\\rtf1\\uc0\\u8233\\u8234\\u8238\\u8239\\u8293\\u8294\\u8297\\u8298}",
