@@ -6,6 +6,7 @@
 #include "storage/saved_game.h"
 #include "support/game_test.h"
 #include "ui/commands.h"
+#include "ui/window_layout.h"
 
 namespace {
 
@@ -18,6 +19,19 @@ protected:
         Game.PointSpacingX = 300;
     }
 };
+
+TEST_F(Field, HasTheRoomBetweenToolbarAndStatus) {
+    const struct {
+        int Width, Height;
+        Rectangle Frame, Picture;
+    } cases[] = {{10'001, 8000, {3000, 7040, 4000, 900}, {60, 401, 9881, 6640}},
+                 {100, 1000, {-1950, 40, 4000, 900}, {50, 401, 0, 0}},
+                 {40'000, 40'000, {18'000, 39'040, 4000, 900}, {3616, 401, 32'767, 32'767}}};
+    for (const auto& [width, height, frame, picture] : cases) {
+        const WindowLayout layout = LayOutWindow(width, height, 400, 4000, 900);
+        EXPECT_TRUE(layout.Frame == frame && layout.Picture == picture) << width;
+    }
+}
 
 TEST_F(Field, OfThreeByTwoBoxesIsNumberedAsCountedByHand) {
     SetUpGame(3, 2, Humanoid, Humanoid);

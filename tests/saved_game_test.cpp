@@ -197,7 +197,7 @@ TEST_F(SavedGame, KeepsEveryName) {
     }
     for (const std::string noUtf8 :
          {"\xc0\x80", "\xed\xa0\x80", "\xed\xbf\xbf", "\xf4\x90\x80\x80", "\xe2\x82",
-          "\xe0\x9f\xbf", "\xf0\x8f\xbf\xbf", "a\xff", "\xc3"})
+          "\xe0\x9f\xbf", "\xf0\x8f\xbf\xbf", "a\xff", "\xc3", "\x80"})
         EXPECT_NE(DecodeFromFile(noUtf8), noUtf8);
 }
 

@@ -3,6 +3,8 @@
 
 struct Rectangle {
     int Left, Top, Width, Height;
+
+    bool operator==(const Rectangle&) const = default;
 };
 
 struct WindowLayout {
