@@ -24,7 +24,6 @@ const std::string Idle = "+-+--++--";
 const std::string PersonToMove = "---++---+";
 const std::string ComputerToMove = "---++----";
 const std::string Paused = "-++-+----";
-const std::string Prepared = "-++-+--+-";
 
 std::string Captions() {
     return frmQuibsMain.lblPlayer1Active.Caption + "|" + frmQuibsMain.lblPlayer2Active.Caption;
@@ -246,27 +245,6 @@ TEST_F(TurnLoop, EndsForWhatBreaksTheGameAndForNothingElse) {
     const auto& boxes = TheNullDesktop.Boxes;
     EXPECT_TRUE(boxes.at(0).Text == damaged && boxes.at(2).Text == damaged);
     EXPECT_EQ(boxes.at(1).Text, "That could not be done, because something unforeseen happened.");
-}
-
-TEST_F(TurnLoop, TakesExchangeOnlyForAPreparedGame) {
-    Prepare(1, ComputerAverage, Humanoid, {1, 2, 3});
-    AfterSeconds(1.6, [] { RunCommand(Command::Draw); });
-    RunCommand(Command::Start);
-    EXPECT_EQ(EnabledCommands(), Prepared) << "drawn when the blink was cut short";
-    EXPECT_EQ(Game.LinesDrawn, 2) << "all harmless lines of one box";
-    EXPECT_LT(TheNullDesktop.SecondsWaited, 1.7);
-    const int other = OtherPlayer(Game.CurrentPlayer);
-    RunCommand(Command::Exchange);
-    EXPECT_EQ(Game.CurrentPlayer, other);
-    EXPECT_EQ(Captions(), Game.PlayerName.at(other) + "'s Turn|GAME PAUSED");
-    TheNullDesktop.Answers = {No, No, Yes};
-    for (const Command command : {Command::Exit, Command::Quit, Command::Quit}) {
-        EXPECT_EQ(EnabledCommands(), Prepared);
-        RunCommand(command);
-    }
-    EXPECT_EQ(TheNullDesktop.Boxes.at(1).Text, "Are you sure you want to quit the current game?");
-    mnuExchange_Click();
-    ExpectGivenUp();
 }
 
 } // namespace
