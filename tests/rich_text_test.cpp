@@ -108,10 +108,11 @@ TEST(RichText, BombsStayWithinBounds) {
     const std::string longText(1'000'000, 'a');
     EXPECT_EQ(Read("{\\rtf1 " + longText + "}").size(), 64537u);
     EXPECT_EQ(Read("{\\rtf1\\fs144 " + longText + "}").size(), 10860u);
-    std::string paragraphs, cells;
+    std::string paragraphs, cells, rows;
     for (int count = 0; count < 100'000; ++count) {
         paragraphs += "\\par";
         cells += "\\cell";
+        rows += "\\cell\\row";
     }
     EXPECT_LE(ReadRichText("{\\rtf1" + paragraphs + "}").size(), 5000u);
     const std::pair<const char*, std::size_t> letters[] = {
@@ -123,6 +124,8 @@ TEST(RichText, BombsStayWithinBounds) {
         EXPECT_EQ(Read("{\\rtf1 " + text + "}").find('|', bytes + 1), 2 * bytes + 1) << letter;
     }
     EXPECT_TRUE(Read("{\\rtf1\\intbl a" + paragraphs + "\\cell\\row}").starts_with("[a|"));
+    const RichText filledUp = ReadRichText("{\\rtf1\\cell\\cell\\cell\\row" + rows + "}");
+    EXPECT_EQ(std::get<RichTable>(filledUp.at(0)).Rows.size(), 683u);
     const RichText wide = ReadRichText("{\\rtf1\\cellx7\\trowd\\cellx0\\cellx9" + cells + "\\row}");
     EXPECT_EQ(std::get<RichTable>(wide.at(0)).Rows.at(0).Cells.size(), 8u);
     EXPECT_EQ(std::get<RichTable>(wide.at(0)).Rows.at(0).RightEdges, (std::vector{0, 9}));
