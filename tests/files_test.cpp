@@ -28,9 +28,9 @@ protected:
 };
 
 TEST_F(Files, AreReplacedWholeOrNotAtAll) {
-    PutBytes("behind.qbs", "old");
-    chmod("behind.qbs", 0640);
     std::filesystem::create_symlink("behind.qbs", File);
+    ReplaceBy("old");
+    chmod("behind.qbs", 0640);
     ReplaceOnFullDisk("longer than before");
     EXPECT_EQ(BytesOf("behind.qbs"), "old");
     EXPECT_EQ(CountFiles(), 2);

@@ -1,5 +1,5 @@
-// Numbers for all behaviour: hashes over what is drawn, shown, told, asked and
-// played in many games.
+// One number for all behaviour: a hash over what is drawn, shown, told, asked and played in many
+// games.
 #include <cmath>
 #include <cstdint>
 #include <fstream>
@@ -11,8 +11,7 @@
 
 namespace {
 
-// A 64-bit FNV-1a hash of what came to pass since the last call and of the
-// controls as they stand.
+// A 64-bit FNV-1a hash of what came to pass since the last call and of the controls as they stand.
 class Recorder {
 public:
     void Record() {
@@ -43,8 +42,7 @@ public:
     std::uint64_t Hash = 0xCBF29CE484222325U;
 
 private:
-    std::size_t Drawings = 0, Sayings = 0, Sounds = 0, Boxes = 0,
-                Forms = 0; // recorded
+    std::size_t Drawings = 0, Sayings = 0, Sounds = 0, Boxes = 0, Forms = 0; // recorded
 };
 
 class GameSignature : public GameTest {};

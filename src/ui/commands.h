@@ -75,6 +75,7 @@ enum class FieldKey {
     TellBoxRight,
     TellBoxBelow
 };
+inline constexpr std::size_t FieldKeyCount = static_cast<std::size_t>(FieldKey::TellBoxBelow) + 1;
 
 // A press of any button at (x, y) in twips on the field, a move to there, and the press of a key.
 void picPlayingField_MouseDown(float x, float y);

@@ -57,7 +57,7 @@ void PressAnyLine(std::uint32_t choice) {
 }
 
 void PressAnyKey(std::uint32_t choice) {
-    picPlayingField_KeyDown(static_cast<FieldKey>(choice % 12));
+    picPlayingField_KeyDown(static_cast<FieldKey>(choice % FieldKeyCount));
 }
 
 // Or presses there, after a movement over a dialog or a menu, which the field does not hear of.

@@ -1,4 +1,4 @@
-// What a user may do at any moment, for the soak and for the stories of the fuzzers.
+// What a user may do at any moment, for the soak, the signature and the stories of the fuzzers.
 #pragma once
 
 #include <cstdint>
