@@ -15,6 +15,7 @@ namespace {
 constexpr const char* FileName = "QUIBLNK.CFG";
 
 void SetBuiltInValues() {
+    Game.CurrentPlayer = 1;
     Game.PlayerColor.at(1) = Black;
     Game.PlayerName.at(1) = "Colossus";
     Game.PlayerKind.at(1) = ComputerIntelligent;
@@ -29,6 +30,7 @@ void SetBuiltInValues() {
     Game.GridRows = 10;
     ResetPointSpacing();
     Game.SoundOn = true;
+    Game.SettingsChanged = true;
 }
 
 // The values in the order of the file; `visit` reads or writes each of them.
