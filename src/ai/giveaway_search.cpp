@@ -184,16 +184,16 @@ int GiveawaySearch::MannerOf(const Run& run) const {
 }
 
 // What a choice seems to cost. Every run that goes with the one opened, and forces nobody any more,
-// is worth two boxes; to a cheat what it leaves is worth more. An average player does not think of
-// it.
+// is worth two boxes, and one where a person might decline; to a cheat what it leaves is worth
+// more. An average player does not think of it.
 int GiveawaySearch::CostOf(const Turn& turn, RunPlace place) const {
     const Giveaway& given = place.Given();
+    const KindTraits& taker = OpponentKindOf(turn);
     if (KindOf(turn).GivesLeast)
         return given.Boxes;
-    if (!OpponentKindOf(turn).Declines)
-        return given.Boxes - 2 * given.Joined;
-    const int declined = given.Boxes > 2 ? BoxesDeclined(place.Opened()) : 0;
-    return given.Boxes - 2 * declined;
+    if (!taker.Declines)
+        return given.Boxes - (KindOf(turn).Declines && !taker.IsComputer ? 1 : 2) * given.Joined;
+    return given.Boxes - (given.Boxes > 2 ? 2 * BoxesDeclined(place.Opened()) : 0);
 }
 
 // The row of a run, with the line in it as its player draws it.
