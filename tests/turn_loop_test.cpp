@@ -206,7 +206,7 @@ TEST_F(TurnLoop, CarriesOutNothingWhileAQuestionIsOpen) {
             TheNullDesktop.Answers = {No, Yes};
             TheNullDesktop.WhenAsked = [second, prepared = frmQuibsMain] {
                 RunCommand(static_cast<Command>(second));
-                SaveGameAs(".", "saved");
+                EXPECT_TRUE(SaveGameAs(".", "saved"));
                 EXPECT_EQ(frmQuibsMain, prepared) << second;
             };
             RunCommand(asking);
