@@ -1,4 +1,4 @@
-// What the player hears, and how colours are named.
+// What the player chooses and hears, and how colours are named.
 #include "display/color_words.h"
 #include "display/sound.h"
 #include "support/game_test.h"
@@ -7,6 +7,21 @@
 namespace {
 
 class DisplayTest : public GameTest {};
+
+TEST_F(DisplayTest, TakesWhatTheDialogsChoose) {
+    const PlayerSettings players{.PlayerName = {{"Ada", "Bo"}},
+                                 .PlayerKind = {{Humanoid, ComputerCheat}},
+                                 .PlayerColor = {{LightRed, LightGreen}}};
+    SetPlayers(players);
+    EXPECT_TRUE(Game.SettingsChanged && static_cast<PlayerSettings&>(Game) == players);
+    EXPECT_EQ(TextsOf(frmQuibsMain), "Ada:     0     Humanoid|Bo:     0     Cheat||");
+    EXPECT_EQ(frmQuibsMain.shpPlayer2Status.FillColor, LightGreen);
+    Game.SettingsChanged = false;
+    const GridSettings grid{3, 2, LightRed, LightGreen, BrightWhite, Black};
+    SetGrid(grid);
+    EXPECT_TRUE(Game.SettingsChanged && static_cast<GridSettings&>(Game) == grid);
+    EXPECT_EQ(frmQuibsMain.picPlayingField.BackColor, LightRed);
+}
 
 TEST_F(DisplayTest, PlaysTheSoundsThatAreThereInTurnWhileTheyAreWanted) {
     const TestDirectory directory;
