@@ -28,6 +28,7 @@ void NewGame() {
     BuildField();
 
     ForgetTurn();
+    Game.CurrentPlayer = 0;
     ShowPlayerStatus(1);
     ShowPlayerStatus(2);
     ShowLinesStatus();
