@@ -4,7 +4,7 @@
 
 #include "ai/chain_tracing.h"
 #include "base/random.h"
-#include "core/state/game_state.h"
+#include "core/state/grid.h"
 #include "core/state/work_lists.h"
 
 void GatherGiveaway(int line) {
@@ -19,12 +19,7 @@ void GiveAwayLine(int line) {
         Game.ChosenLine = Work.ChainLines.at(RandomPick(Work.ChainLines.Count()));
         return;
     }
-    const auto [firstBox, secondBox] = std::minmax(Work.ChainBoxes.at(1), Work.ChainBoxes.at(2));
-    for (const Integer between : Work.ChainLines) {
-        const Line& candidate = Game.Lines.at(between);
-        if (candidate.FirstBox == firstBox && candidate.SecondBox == secondBox) {
+    for (const Integer between : Work.ChainLines)
+        if (std::ranges::is_permutation(BoxesBeside(between), Work.ChainBoxes))
             Game.ChosenLine = between;
-            return;
-        }
-    }
 }

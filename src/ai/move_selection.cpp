@@ -52,20 +52,16 @@ void ChooseSafeOrRiskyLine() {
     ClassifyUndrawnLines();
     if (Work.ChainLines.Count() > 0)
         Game.ChosenLine = Work.ChainLines.at(RandomPick(Work.ChainLines.Count()));
-    else if (Work.RiskyLines.Count() > 0) // the cheat may have taken the last box
+    else
         ChooseSacrifice();
 }
 
-// The cheat may have drawn every line that takes a box; then it moves on as after any capture.
+// The cheat may have drawn the line with a chain; then the turn loop asks again.
 void TakeAsCheat(int captureBox) {
     Game.ChosenLine = ToInteger(FirstUndrawnSide(captureBox));
     CheatTakeBoxes();
-    if (!IsDrawn(Game.ChosenLine))
-        return;
-    if (const int nextBox = FindCaptureBox(); nextBox != 0)
-        Game.ChosenLine = ToInteger(FirstUndrawnSide(nextBox));
-    else
-        ChooseSafeOrRiskyLine();
+    if (IsDrawn(Game.ChosenLine))
+        Game.ChosenLine = 0;
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 #include "base/files.h"
 
 #include <algorithm>
+#include <array>
 #include <cerrno>
 #include <fcntl.h>
 #include <filesystem>
@@ -17,8 +18,7 @@ constexpr int AlwaysWith = O_NONBLOCK | O_NOCTTY | O_CLOEXEC;
 
 struct stat StatusOf(const OpenFile& file) {
     struct stat status = {};
-    if (fstat(file.Descriptor, &status) != 0)
-        status = {};
+    (void)fstat(file.Descriptor, &status);
     return status;
 }
 
@@ -144,18 +144,15 @@ std::optional<std::string> ReadRegularFile(const std::string& name, std::size_t 
     const OpenFile file = OpenRegular(name, O_RDONLY);
     if (!file.IsOpen())
         return std::nullopt;
-    constexpr std::size_t step = 1 << 16;
     std::string bytes;
-    std::size_t length = 0;
-    while (length < atMostBytes) {
-        bytes.resize(std::min(length + step, atMostBytes));
-        const ssize_t count = read(file.Descriptor, bytes.data() + length, bytes.size() - length);
+    for (;;) {
+        std::array<char, 1 << 16> next;
+        const ssize_t count =
+            read(file.Descriptor, next.data(), std::min(next.size(), atMostBytes - bytes.size()));
         if (count <= 0)
-            break;
-        length += static_cast<std::size_t>(count);
+            return bytes;
+        bytes.append(next.data(), static_cast<std::size_t>(count));
     }
-    bytes.resize(length);
-    return bytes;
 }
 
 FileReplacement::FileReplacement(const std::string& name)

@@ -49,7 +49,7 @@ int NearestLine(bool isVertical, Middle from) {
         const int x = to.X - from.X;
         const int y = to.Y - from.Y;
         const bool hasSameFirstPoint = to.X / 2 == from.X / 2 && to.Y / 2 == from.Y / 2;
-        return 2 * (x * x + y * y) + (hasSameFirstPoint ? 0 : 1);
+        return x * x + y * y - (hasSameFirstPoint ? 1 : 0);
     });
 }
 

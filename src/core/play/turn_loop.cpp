@@ -128,7 +128,6 @@ void EndLoop(LoopEnd end) {
     switch (end) {
     case LoopEnd::BoardFull:
         Game.GamePaused = false;
-        Game.QuitRequested = false;
         EnterPhase(Phase::Idle);
         ShowGameOver();
         break;
