@@ -49,29 +49,15 @@ void JoinWalks() {
     Work.ChainLines.Append(Work.ChainTailLines);
 }
 
-void TakeOrDecline(bool isLoop) {
+void TakeOrDecline(bool mayDecline, bool isLoop) {
     const int count = Work.ChainLines.Count();
-    if (count == 2)
-        Game.ChosenLine = Work.ChainLines.at(2);
-    else if (count + Game.LinesDrawn == Game.LineCount)
+    const bool endsGame = count + Game.LinesDrawn == Game.LineCount; // then two are declined alone
+    if (!mayDecline || (endsGame && count != 2))
         CaptureThenChoose(count - 1, count);
     else if (!isLoop)
         CaptureThenChoose(count - 2, count);
     else
         CaptureThenChoose(count - 3, count - 1);
-}
-
-// Two walks of at most one line each: there is nothing to decline.
-void TakeSingleBoxes() {
-    if (Work.ChainLines.Count() == 1) {
-        Game.ChosenLine = Work.ChainLines.at(1);
-        if (Work.ChainTailLines.Count() > 0) {
-            Capture(Game.ChosenLine);
-            Game.ChosenLine = Work.ChainTailLines.at(1);
-        }
-    } else {
-        Game.ChosenLine = Work.ChainTailLines.at(1);
-    }
 }
 
 } // namespace
@@ -82,11 +68,8 @@ void CheatTakeBoxes() {
     if (!HasBoxBeside(lastLine, 3))
         return;
     TraceChain(lastLine);
-    if (Work.ChainLines.Count() < 2 && Work.ChainTailLines.Count() < 2) {
-        TakeSingleBoxes();
-        return;
-    }
+    const bool mayDecline = Work.ChainLines.Count() > 1 || Work.ChainTailLines.Count() > 1;
     const bool isLoop = Work.ChainTailLines.Count() == CountedList<Integer>::ClosedLoop;
     JoinWalks();
-    TakeOrDecline(isLoop);
+    TakeOrDecline(mayDecline, isLoop);
 }

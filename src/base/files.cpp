@@ -31,27 +31,26 @@ OpenFile OpenRegular(const std::string& name, int flags) {
     return S_ISREG(StatusOf(file).st_mode) ? std::move(file) : OpenFile();
 }
 
+// The system does not follow the links that others leave in a directory for all, nor too many: who
+// follows them by hand writes where others want, or without end.
+bool IsForbiddenLink(const std::filesystem::path& name) {
+    std::error_code unreachable;
+    return std::filesystem::status(name, unreachable).type() == std::filesystem::file_type::none &&
+           std::filesystem::is_symlink(name, unreachable);
+}
+
 // What a link leads to, and the links behind it, whether or not there is such a file yet.
 std::string FollowLinks(std::filesystem::path name) {
-    constexpr int mostLinks = 40; // like the system
     std::error_code unreachable;
-    for (int i = 0; i < mostLinks && std::filesystem::is_symlink(name, unreachable); ++i)
+    while (std::filesystem::is_symlink(name, unreachable) && !IsForbiddenLink(name))
         name = name.parent_path() / std::filesystem::read_symlink(name, unreachable);
     return name.string();
 }
 
-// The system does not follow the links that others leave in a directory for all: who follows them
-// by hand writes where they want.
-bool IsForbiddenLink(const std::string& name) {
-    struct stat status = {};
-    std::error_code unreachable;
-    return stat(name.c_str(), &status) != 0 && errno != ENOENT &&
-           std::filesystem::is_symlink(name, unreachable);
-}
-
 bool IsThere(const std::string& name) {
-    struct stat status = {};
-    return lstat(name.c_str(), &status) == 0 || errno != ENOENT;
+    std::error_code unreachable;
+    return std::filesystem::symlink_status(name, unreachable).type() !=
+           std::filesystem::file_type::not_found;
 }
 
 // Hidden, and no game by its ending.
@@ -179,8 +178,6 @@ void FileReplacement::CreateNew() {
     for (int number = 0; number < mostAtOnce; ++number) {
         const std::string name = NameBeside(Name, number);
         OpenFile file(open(name.c_str(), O_WRONLY | O_CREAT | O_EXCL | AlwaysWith, modeBeforeMask));
-        if (!file.IsOpen() && errno != EEXIST)
-            return;
         // Before it was locked another may have taken it for left behind.
         if (file.IsOpen() && TakeLock(file) && IsStillNamed(file, name)) {
             New = std::move(file);

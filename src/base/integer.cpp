@@ -1,21 +1,19 @@
 #include "base/integer.h"
 
 #include <cmath>
-#include <limits>
 #include <stdexcept>
 
 Integer ToInteger(int value) {
-    if (value < std::numeric_limits<Integer>::min() || value > std::numeric_limits<Integer>::max())
+    const auto number = static_cast<Integer>(value);
+    if (number != value)
         throw std::overflow_error("a number of the game does not fit into 16 bits");
-    return static_cast<Integer>(value);
+    return number;
 }
 
 Integer RoundToInteger(double value) {
-    const double rounded = std::nearbyint(value);
-    // Written so that a NaN fails too.
-    if (!(std::abs(rounded) <= std::numeric_limits<int>::max()))
-        throw std::overflow_error("a number of the game does not fit into 16 bits");
-    return ToInteger(static_cast<int>(rounded));
+    constexpr double beyond = 1 << 16; // fits nowhere, and stands for what is no number, too
+    return ToInteger(
+        static_cast<int>(std::fmax(-beyond, std::fmin(std::nearbyint(value), beyond))));
 }
 
 void Increase(Integer& counter, int amount) {

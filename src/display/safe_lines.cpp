@@ -2,9 +2,9 @@
 
 #include <vector>
 
+#include "base/counted_list.h"
 #include "base/random.h"
 #include "core/state/grid.h"
-#include "core/state/work_lists.h"
 #include "display/field.h"
 #include "display/status_panel.h"
 
@@ -15,9 +15,8 @@ namespace {
 // board.
 class SafeLineList {
 public:
-    SafeLineList()
-        : Lines(Work.ChainLines), PositionOf(static_cast<std::size_t>(Game.LineCount) + 1) {
-        Lines.Clear();
+    SafeLineList() : PositionOf(Game.Lines.size()) {
+        Lines.Resize(Game.LineCount);
         for (int line = 1; line <= Game.LineCount; ++line) {
             Lines.Append(ToInteger(line));
             PositionOf.at(line) = Lines.Count();
@@ -39,7 +38,7 @@ public:
     }
 
 private:
-    CountedList<Integer>& Lines;
+    CountedList<Integer> Lines;
     std::vector<Integer> PositionOf; // 0 = not in the list
 };
 
@@ -71,6 +70,5 @@ void DrawSafeLines() {
         for (const Integer box : BoxesBeside(line))
             AddSide(box, safeLines);
     }
-    Game.ChosenLine = 0;
     ShowLinesStatus();
 }

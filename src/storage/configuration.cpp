@@ -6,7 +6,6 @@
 
 #include "base/random.h"
 #include "core/state/game_state.h"
-#include "display/field.h"
 #include "display/sound.h"
 #include "storage/value_file.h"
 
@@ -15,7 +14,6 @@ namespace {
 constexpr const char* FileName = "QUIBLNK.CFG";
 
 void SetBuiltInValues() {
-    Game.CurrentPlayer = 1;
     Game.PlayerColor.at(1) = Black;
     Game.PlayerName.at(1) = "Colossus";
     Game.PlayerKind.at(1) = ComputerIntelligent;
@@ -28,9 +26,7 @@ void SetBuiltInValues() {
     Game.PointColor = BrightWhite;
     Game.GridColumns = 10;
     Game.GridRows = 10;
-    ResetPointSpacing();
     Game.SoundOn = true;
-    Game.SettingsChanged = true;
 }
 
 // The values in the order of the file; `visit` reads or writes each of them.

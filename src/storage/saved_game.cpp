@@ -88,12 +88,7 @@ template <class Row>
 void ReadTable(std::vector<Row>& table) {
     for (Row& row : table)
         VisitRow(row, Read);
-    table.front() = Row{};
-}
-
-void RequireRows(Integer count) {
-    if (count < 0)
-        throw std::runtime_error("a table cannot have so few rows");
+    table.at(0) = Row{};
 }
 
 void ShowLoadedGame() {
@@ -133,15 +128,13 @@ bool MayReplace(const std::string& path) {
                           MessageButtons::YesNo) == MessageAnswer::Yes;
 }
 
-// Where the last `count` characters of UTF-8 begin; npos when there are fewer.
+// Where the last `count` characters of UTF-8 begin; 0 when there are fewer.
 std::size_t LastCharacters(const std::string& text, int count) {
-    for (std::size_t position = text.size(); position > 0;) {
-        --position;
-        const bool beginsCharacter = (static_cast<unsigned char>(text.at(position)) & 0xC0) != 0x80;
-        if (beginsCharacter && --count == 0)
-            return position;
-    }
-    return std::string::npos;
+    std::size_t position = text.size();
+    while (count != 0 && position != 0)
+        if ((static_cast<unsigned char>(text.at(--position)) & 0xC0) != 0x80)
+            --count;
+    return position;
 }
 
 bool IsGameExtension(std::string extension) {
@@ -181,11 +174,9 @@ bool ReadGame() {
     Game.GridRows = grid.Rows;
     VisitPlayersAndEdges(Read);
     Read(Game.BoxCount);
-    RequireRows(Game.BoxCount);
     SizeBoxTables();
     ReadTable(Game.Boxes);
     VisitLineCounts(Read);
-    RequireRows(Game.LineCount);
     std::vector<Line> lines(static_cast<std::size_t>(Game.LineCount) + 1);
     ReadTable(lines);
     SizeLineTables();
@@ -221,8 +212,8 @@ std::string SavePath(const std::string& directory, const std::string& name) {
     constexpr int extensionLength = 4; // with its point
     std::string path = directory + "/" + name;
     const std::size_t lastFour = LastCharacters(path, extensionLength);
-    const bool hasExtension = lastFour != std::string::npos && path.at(lastFour) == '.' &&
-                              path.find('/', lastFour) == std::string::npos;
+    const bool hasExtension =
+        path.at(lastFour) == '.' && path.find('/', lastFour) == std::string::npos;
     if (hasExtension) {
         if (IsGameExtension(path.substr(lastFour)))
             return path;

@@ -94,11 +94,10 @@ void AppendLine(std::string& text, const std::string& line) {
 } // namespace
 
 void OpenForInput(const std::string& path) {
-    RequireFreeChannel();
     std::optional<std::string> text = ReadRegularFile(path, LongestFile);
     if (!text)
         throw std::runtime_error("a file cannot be opened");
-    TakeChannel(*std::move(text));
+    OpenTextForInput(*std::move(text));
 }
 
 void OpenTextForInput(std::string text) {

@@ -114,7 +114,6 @@ void RunGameCommand(Command command) {
 // A pause that the turn loop has not seen yet is forgotten.
 void TakePauseBack() {
     Game.GamePaused = false;
-    ShowTurn(Game.CurrentPlayer);
     if (Game.QuitRequested)
         EnterPhase(Phase::QuitPending);
     else

@@ -1,5 +1,6 @@
 #include "core/play/pointer_input.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "ai/move_selection.h"
@@ -46,12 +47,8 @@ bool IsInReach(float position, int first, int last, int pixel) {
            position < static_cast<float>(last) + reach;
 }
 
-CellPosition Locate(float position, int first, int last, int spacing, int pixel) {
-    if (position <= static_cast<float>(first))
-        position = static_cast<float>(first + pixel);
-    if (position >= static_cast<float>(last))
-        position = static_cast<float>(last - pixel);
-    const double inside = static_cast<double>(position) - first;
+CellPosition Locate(float position, int first, int spacing, int pixel) {
+    const double inside = std::max(0.0, static_cast<double>(position) - first);
     return {static_cast<int>((inside + spacing) / spacing),
             RoundToInteger(std::fmod(inside, spacing) / pixel), spacing / pixel};
 }
@@ -61,10 +58,8 @@ int LineNear(float x, float y) {
     if (!IsInReach(x, Game.FieldLeft, Game.FieldRight, Game.TwipsPerPixelX) ||
         !IsInReach(y, Game.FieldTop, Game.FieldBottom, Game.TwipsPerPixelY))
         return 0;
-    const CellPosition across =
-        Locate(x, Game.FieldLeft, Game.FieldRight, Game.PointSpacingX, Game.TwipsPerPixelX);
-    const CellPosition down =
-        Locate(y, Game.FieldTop, Game.FieldBottom, Game.PointSpacingY, Game.TwipsPerPixelY);
+    const CellPosition across = Locate(x, Game.FieldLeft, Game.PointSpacingX, Game.TwipsPerPixelX);
+    const CellPosition down = Locate(y, Game.FieldTop, Game.PointSpacingY, Game.TwipsPerPixelY);
     if (across.IsClearOfPoints() && down.IsAtPoints())
         return LineAt({false, down.NearestPoints() - 1, across.Cell - 1});
     if (down.IsClearOfPoints() && across.IsAtPoints())

@@ -166,7 +166,6 @@ void AbandonGame() {
     Game.GamePaused = false;
     Game.QuitRequested = false;
     Game.GameOverShown = false;
-    Game.CommandAfterGameOver.reset();
     ShowCaptions({}, {}, 0);
     ForgetTurn();
     Game.PlayerScore = {};

@@ -103,8 +103,8 @@ struct Surroundings {
 // This game: the field, who scored what in it and who is to move.
 struct Board {
     // Where the field lies on the picture, in twips.
-    Integer PointSpacingX = 0;
-    Integer PointSpacingY = 0;
+    Integer PointSpacingX = 1; // never less
+    Integer PointSpacingY = 1; //
     Integer FieldLeft = 0;
     Integer FieldRight = 0;
     Integer FieldTop = 0;

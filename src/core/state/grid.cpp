@@ -4,11 +4,11 @@
 #include <stdexcept>
 
 int FieldColumns() {
-    return Game.PointSpacingX > 0 ? (Game.FieldRight - Game.FieldLeft) / Game.PointSpacingX : 0;
+    return (Game.FieldRight - Game.FieldLeft) / Game.PointSpacingX;
 }
 
 int FieldRows() {
-    return Game.PointSpacingY > 0 ? (Game.FieldBottom - Game.FieldTop) / Game.PointSpacingY : 0;
+    return (Game.FieldBottom - Game.FieldTop) / Game.PointSpacingY;
 }
 
 LinePlace PlaceOf(int line) {
