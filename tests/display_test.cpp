@@ -1,6 +1,7 @@
 // What the player chooses and hears, and how colours are named.
 #include "display/color_words.h"
 #include "display/sound.h"
+#include "display/status_panel.h"
 #include "support/game_test.h"
 #include "ui/commands.h"
 
@@ -16,6 +17,7 @@ TEST_F(DisplayTest, TakesWhatTheDialogsChoose) {
     EXPECT_TRUE(Game.SettingsChanged && static_cast<PlayerSettings&>(Game) == players);
     EXPECT_EQ(TextsOf(frmQuibsMain), "Ada:     0     Humanoid|Bo:     0     Cheat||");
     EXPECT_EQ(frmQuibsMain.shpPlayer2Status.FillColor, LightGreen);
+    EXPECT_NO_THROW(ShowTurn(3)) << "nobody's";
     Game.SettingsChanged = false;
     const GridSettings grid{3, 2, LightRed, LightGreen, BrightWhite, Black};
     SetGrid(grid);
@@ -50,9 +52,9 @@ TEST_F(DisplayTest, PlaysTheSoundsThatAreThereInTurnWhileTheyAreWanted) {
 
 TEST_F(DisplayTest, NamesColorsAsPeopleDo) {
     const std::vector<std::pair<Color, const char*>> colors{
-        {Black, "black"},         {LightGreen, "light green"}, {LightRed, "light red"},
-        {0x800000, "blue"},       {0x008080, "yellow"},        {0xC0C0C0, "white"},
-        {0xC06020, "light blue"}, {0x20A0F0, "orange"},        {0x13458B, "brown"}};
+        {0x010101, "black"},      {0x444422, "gray"},   {0x0000C0, "light red"},
+        {0xAA99AA, "gray"},       {0x008080, "yellow"}, {0xC0C0C0, "white"},
+        {0xC06020, "light blue"}, {0x20A0F0, "orange"}, {0x13458B, "brown"}};
     for (const auto& [color, name] : colors)
         EXPECT_EQ(ColorInWords(color), name);
 }

@@ -31,6 +31,10 @@ TEST_F(Field, HasTheRoomBetweenToolbarAndStatus) {
         const WindowLayout layout = LayOutWindow(width, height, 400, 4000, 900);
         EXPECT_TRUE(layout.Frame == frame && layout.Picture == picture) << width;
     }
+    EXPECT_EQ(TheNullDesktop.Place, WindowPlace::Centred);
+    TheNullDesktop.ScreenWidth -= 15;
+    Form_Load();
+    EXPECT_EQ(TheNullDesktop.Place, WindowPlace::Maximised) << "on a narrow screen";
 }
 
 TEST_F(Field, OfThreeByTwoBoxesIsNumberedAsCountedByHand) {
@@ -85,11 +89,10 @@ TEST_F(Field, ThatNoLongerFitsIsLeftWhereItWasAndWarnedOfDuringAGame) {
     EXPECT_TRUE(TheNullDesktop.Boxes.empty()) << "fits again before the warning opens";
     TheNullDesktop.PictureWidth = 898;
     TheNullDesktop.Answers = {MessageAnswer::Ok};
+    TheNullDesktop.WhenAsked = ShowResizeWarning; // one warning at a time
     ShowResizeWarning();
     EXPECT_EQ(TheNullDesktop.Boxes.size(), 1U);
-    Game.ResizeWarningShown = true;
-    EXPECT_FALSE(Form_Resize()) << "one warning at a time";
-    Game.ResizeWarningShown = Game.GameInPlay = false;
+    Game.GameInPlay = false;
     EXPECT_FALSE(Form_Resize()) << "no game to warn of";
 }
 

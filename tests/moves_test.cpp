@@ -23,8 +23,8 @@ TEST_F(Moves, ThatGiveABoxAwayBesideATakeableOneAreRefusedAgainstTwoKindsOnly) {
         {"the border is behind", {1, 7}, 8, true},
     };
     TheNullDesktop.Answers.assign(100, MessageAnswer::Ok);
-    for (const int mover : {1, 2}) {
-        for (Integer opponent = Humanoid; opponent <= ComputerCheat; ++opponent) {
+    for (const int mover : {1, 2})
+        for (Integer opponent = Humanoid; opponent <= ComputerCheat; ++opponent)
             for (const auto& c : cases) {
                 SetUpGame(3, 1, Humanoid, Humanoid);
                 DrawForNobody(c.Drawn);
@@ -35,8 +35,6 @@ TEST_F(Moves, ThatGiveABoxAwayBesideATakeableOneAreRefusedAgainstTwoKindsOnly) {
                 EXPECT_EQ(IsLegalMove(), isFree || c.IsLegal)
                     << c.Story << " against " << opponent << " by " << mover;
             }
-        }
-    }
 }
 
 TEST_F(Moves, OfAPersonThatAreRefusedChangeNothingButThePreview) {

@@ -1,7 +1,6 @@
 // A game as it is told to somebody who listens instead of looking.
 #include "display/news.h"
 
-#include "core/play/game_over.h"
 #include "core/state/work_lists.h"
 #include "support/game_test.h"
 #include "ui/commands.h"
@@ -36,14 +35,6 @@ TEST_F(News, TellATurnInOneText) {
                        "Colossus's Turn. GAME PAUSED.", "Colossus's Turn.",
                        "down, row 1, column 3, closes a box",
                        "Colossus took a box. Colossus 1, Guardian 1. It's A Draw."}));
-}
-
-TEST_F(News, EndWithTheScoreEvenIfItWasToldBefore) {
-    SetUpGame(2, 1, ComputerAverage, ComputerAverage);
-    DrawForNobody({1, 2, 3, 4, 5, 6, 7});
-    TellNews();
-    ShowGameOver();
-    EXPECT_EQ(TheNullDesktop.Sayings.back(), "Colossus 2, Guardian 0. The Winner Is: Colossus.");
 }
 
 TEST_F(News, TellWhatEachLineDoesAndWhatIsAskedFor) {

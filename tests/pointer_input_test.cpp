@@ -57,36 +57,6 @@ TEST_F(Pointer, PreviewsTheLineWithinFourPixelsSevenFromItsFirstPointAndSixFromI
     }
 }
 
-TEST_F(Pointer, ShowsAndTakesNothingUnlessAPersonIsAwaited) {
-    void (*const hindrances[])() = {
-        [] { Game.GameInPlay = false; },   [] { Game.GamePaused = true; },
-        [] { Game.QuitRequested = true; }, [] { Game.MouseDownSeen = true; },
-        [] { Game.CurrentPlayer = 2; },    [] { Game.CurrentPlayer = 0; },
-        [] { Game.HintMode = true; },
-    };
-    const GameState awaited = Game;
-    for (const auto hinder : hindrances) {
-        Game = awaited;
-        hinder();
-        const std::size_t drawings = TheNullDesktop.Drawings.size();
-        PressLine(5);
-        mnuHint_Click();
-        PressKeys("LURDT");
-        EXPECT_EQ(Game.GhostLine + Game.ChosenLine, 0);
-        EXPECT_EQ(TheNullDesktop.Drawings.size(), drawings);
-        if (Game.HintMode)
-            continue;
-        Game.GhostLine = 5; // shown before
-        PressHere();
-        picPlayingField_KeyDown(FieldKey::Draw);
-        PressKeys("LURDT");
-        EXPECT_TRUE(Game.ChosenLine == 0 && Game.GhostLine == 5);
-        MoveTo(12, 12);
-        EXPECT_EQ(Game.GhostLine, 0) << "but an old preview goes";
-        EXPECT_EQ(Last().What, Drawing::Kind::Erasure);
-    }
-}
-
 TEST_F(Pointer, ShowsAHintUntilItMovesAndTakesOnePressOnly) {
     DrawForNobody({5, 8, 13});
     for (const Integer opponent : {ComputerAverage, ComputerCheat}) {

@@ -39,16 +39,18 @@ std::string Read(const std::string& rtf) {
 } // namespace
 
 TEST(RichText, ReadsTheFormatsOfRunsAndParagraphs) {
-    const RichText document = ReadRichText(
-        "{\\rtf1{\\colortbl x;\\red1\\green2\\blue3;}\\qc\\li400\\fi-400\\sa99999\n"
-        "a{\\b\\cf1\\fs30 b\\b0 c}{\\i\\ul d\\ulnone g}\\cf7 e\\par\\pard\\plain f\\par}");
+    const RichText document =
+        ReadRichText("{\\rtf1;{\\colortbl\\red0\\green2\\blue300\\x;" + std::string(255, ';') +
+                     "\\red9;}"
+                     "\\qc\\li400\\fi-400\\sa99999\na{\\b\\cf0\\fs30 b\\b0 c}{\\i\\ul d\\ulnone "
+                     "g}\\cf256 e\\b\\plain h\\par\\pard f\\par}");
     ASSERT_EQ(document.size(), 2u);
     const auto& first = std::get<RichParagraph>(document.at(0));
     EXPECT_EQ(first.Format.Alignment, RichAlignment::Center);
     EXPECT_EQ(first.Format.LeftIndent, 400);
     EXPECT_EQ(first.Format.FirstIndent, -400);
     EXPECT_EQ(first.Format.SpaceAfter, 2880); // two inches are the most
-    const RichColor color{.Red = 1, .Green = 2, .Blue = 3};
+    const RichColor color{.Red = 0, .Green = 2, .Blue = 255};
     const std::vector<RichRunFormat> formats{{},
                                              {.Bold = true, .Color = color, .HalfPoints = 30},
                                              {.Color = color, .HalfPoints = 30},
@@ -68,20 +70,20 @@ TEST(RichText, ReadsTextAndTablesEvenBrokenOnes) {
         {"{\\rtf1 a \r\nb\\par\\\n}", "a b||"},
         {"{\\rtf1\\azAZ-x}", "-x|"},
         {"{\\rtf1\\{\\}\\\\\\~\\bullet\\tab x}", "{}\\\u00A0\u2022\tx|"},
-        {"{\\rtf1\\'09\\'80\\'fE\\'Cf\\'93\\'aF\\'Ae\\'zz}",
-         "\t\u20AC\u00FE\u00CF\u201C\u00AF\u00AEzz|"},
+        {"{\\rtf1\\'09\\'80\\'fE\\'Cf\\'93\\'aF\\'Ae\\'ez\\'-f}",
+         "\t\u20AC\u00FE\u00CF\u201C\u00AF\u00AEez-f|"},
         {"{\\rtf1\\uc1 \\u8364?\\u233\\'e9x\\u233\\~y\\u233\\tab z\\u233{w}{\\u233}v}",
          "\u20AC\u00E9x\u00E9y\u00E9z\u00E9w\u00E9v|"},
         {"{\\rtf1\\uc2\\u945\\~bc{\\uc0\\u946 "
          "d}\\u-10240??\\u-9216??\\u-9217??\\u-8195??\\u-9216??}",
          "\u03B1c\u03B2d\U00010000\U0010FFFD\uFFFD|"},
-        {"{\\rtf1\\uc0\\u31\\u32.\\u126\\u127\\u159\\u160\\u2047\\u2048}",
-         " .~\u00A0\u07FF\u0800|"},
+        {"{\\rtf1\\uc0\\u-9216\\u31\\u32.\\u126\\u127\\u159\\u160\\u2047\\u2048}",
+         "\uFFFD .~\u00A0\u07FF\u0800|"},
         {"{\\rtf1\\uc0\\u8233\\u8234\\u8238\\u8239\\u8293\\u8294\\u8297\\u8298}",
          "\u202F\u2065\u206A|"},
         {"{\\rtf1\\uc0\\u-10240\\u-8192\\u-9216\\u-561\\u-560\\u-529\\u-528\\u-5\\u-4\\u-3\\u-2}",
          "\uE000\uFFFD\uFDCF\uFDF0\uFFFB\uFFFD|"},
-        {"{\\rtf1{\\fonttbl{\\f0 F;}}{\\*\\new {x}y}{\\info z}{\\pict\\bin3 }}}}\\v h\\v0 s}",
+        {"{\\rtf1{\\fonttbl{\\f0 F;}}{\\*\\new {x}\\\ny}{\\info z}{\\pict\\bin3 }}}}\\v h\\v0 s}",
          "s|"},
         {"{\\rtf1{\\field{\\*\\fldinst L}{\\fldrslt link}}}behind", "link|"},
         {"{\\rtf1\\trowd\\cellx9\\intbl a\\par b\\cell\\cell\\row\\intbl c\\cell\\row\\pard "

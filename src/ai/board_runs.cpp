@@ -7,7 +7,7 @@ namespace {
 class Reader {
 public:
     Reader() : JointNumbers(Game.Boxes.size(), 0), IsRead(Game.Boxes.size(), false) {
-        Found.RunOfLine.assign(Game.Lines.size(), -1);
+        Found.RunOfLine.resize(Game.Lines.size());
         int joints = 0;
         for (int box = 1; box <= Game.BoxCount; ++box)
             if (Game.Boxes.at(box).SidesDrawn < 2)

@@ -7,7 +7,7 @@
 
 struct BoardRuns {
     std::vector<Run> Runs;
-    std::vector<int> RunOfLine; // by line number; -1 = drawn
+    std::vector<int> RunOfLine; // by line number, unless it is drawn
 };
 
 // Reads the board as it stands, with no safe line left and no box with three sides.

@@ -92,7 +92,7 @@ void TraceChain(int line, ChainLists& found) {
     const int secondSides = playOut.SidesDrawn(second);
     if (secondSides == 3)
         Walk(second, line, found.ChainTailLines, found.ChainBoxes);
-    else if (secondSides == 4 && found.ChainLines.Count() > 0 &&
+    else if (secondSides == 4 && found.ChainLines.Count() != 0 &&
              HasSide(second, found.ChainLines.Last()))
         found.ChainTailLines.MarkClosedLoop();
 }
@@ -107,7 +107,7 @@ Prospect ProspectOf(int line) {
         prospect.Given = found.ChainBoxes.Count();
     for (int box = 1; box <= Game.BoxCount; ++box)
         if (playOut.SidesDrawn(box) == 3)
-            Walk(box, 0, found.ChainLines, found.ChainBoxes);
+            Walk(box, line, found.ChainLines, found.ChainBoxes);
     prospect.Open = found.ChainBoxes.Count() - prospect.Closed - prospect.Given;
     return prospect;
 }

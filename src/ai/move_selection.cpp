@@ -21,7 +21,7 @@ void TakeWholeChain(int captureBox) {
     if (Game.HintMode)
         return;
     TraceChain(first);
-    if (Work.ChainLines.Count() < 1 && Work.ChainTailLines.Count() < 1)
+    if (Work.ChainLines.Count() == 0 && Work.ChainTailLines.Count() == 0)
         return;
     Work.ChainLines.Append(Work.ChainTailLines);
     Capture(first);
@@ -50,7 +50,7 @@ void ClassifyUndrawnLines() {
 
 void ChooseSafeOrRiskyLine() {
     ClassifyUndrawnLines();
-    if (Work.ChainLines.Count() > 0)
+    if (Work.ChainLines.Count() != 0)
         Game.ChosenLine = Work.ChainLines.at(RandomPick(Work.ChainLines.Count()));
     else
         ChooseSacrifice();

@@ -80,8 +80,8 @@ void RemoveIfLeftBehind(const std::string& name) {
 
 void KeepModeAndOwner(const OpenFile& from, const OpenFile& to) {
     const struct stat status = StatusOf(from);
-    if (fchown(to.Descriptor, status.st_uid, status.st_gid) != 0)
-        (void)!fchown(to.Descriptor, static_cast<uid_t>(-1), status.st_gid);
+    (void)!fchown(to.Descriptor, StatusOf(to).st_uid, status.st_gid); // which more may do
+    (void)!fchown(to.Descriptor, status.st_uid, status.st_gid);
     (void)fchmod(to.Descriptor, status.st_mode & 07777);
 }
 
@@ -122,7 +122,9 @@ void SyncDirectoryOf(const std::string& name) {
 
 } // namespace
 
-OpenFile::OpenFile(OpenFile&& other) noexcept : Descriptor(std::exchange(other.Descriptor, -1)) {}
+OpenFile::OpenFile(OpenFile&& other) noexcept {
+    std::swap(Descriptor, other.Descriptor);
+}
 
 OpenFile& OpenFile::operator=(OpenFile&& other) noexcept {
     std::swap(Descriptor, other.Descriptor);
@@ -161,7 +163,7 @@ FileReplacement::FileReplacement(const std::string& name)
     CreateNew();
     if (!Old.IsOpen() && !New.IsOpen())
         throw std::runtime_error("a file cannot be made");
-    if (Old.IsOpen() && New.IsOpen())
+    if (Old.IsOpen())
         KeepModeAndOwner(Old, New);
 }
 
@@ -187,17 +189,15 @@ void FileReplacement::CreateNew() {
     }
 }
 
-bool FileReplacement::Write(const std::string& text) {
+void FileReplacement::Write(const std::string& text) {
     if (New.IsOpen()) {
         WriteToDisk(New, text);
         if (rename(NewName.c_str(), Name.c_str()) == 0) {
             NewName.clear();
             SyncDirectoryOf(Name);
-            return true;
+            return;
         }
     }
-    if (!Old.IsOpen())
-        return false;
-    WriteOver(Old, text);
-    return true;
+    if (Old.IsOpen())
+        WriteOver(Old, text);
 }

@@ -41,9 +41,9 @@ public:
     FileReplacement(const FileReplacement&) = delete;
     FileReplacement& operator=(const FileReplacement&) = delete;
 
-    // Called once. False when there is no old file and no file of that name can be made. Throws
-    // std::runtime_error when the disk fails or is full.
-    bool Write(const std::string& text);
+    // Called once. Throws std::runtime_error when the disk fails or is full. Nothing comes of a
+    // name that no file can have.
+    void Write(const std::string& text);
 
 private:
     void CreateNew();

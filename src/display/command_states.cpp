@@ -17,7 +17,6 @@ std::vector<Command> EnabledIn(Phase phase) {
     case Phase::ComputerToMove:
     case Phase::QuitPending:
         return {Pause, Quit};
-    case Phase::PausePending:
     case Phase::Paused:
         return {Save, Start, Quit};
     case Phase::Prepared:

@@ -7,8 +7,7 @@ enum class Phase {
     Idle,           // start-up, game over, after a game was quit
     PersonToMove,   // a person is being waited for
     ComputerToMove, // a computer is choosing, and every pause between two turns
-    PausePending,   // a pause was asked for, the turn loop has not ended yet
-    Paused,         // the turn loop has ended for a pause
+    Paused,         // a pause was asked for, whether or not the turn loop has ended for it
     QuitPending,    // quitting was confirmed, the turn loop has not ended yet
     Prepared,       // a game was drawn or loaded and waits to be started
 };

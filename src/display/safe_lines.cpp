@@ -70,5 +70,6 @@ void DrawSafeLines() {
         for (const Integer box : BoxesBeside(line))
             AddSide(box, safeLines);
     }
+    Game.ChosenLine = 0;
     ShowLinesStatus();
 }

@@ -50,6 +50,8 @@ std::string TurnText(int player) {
 }
 
 void ShowTurn(int player) {
+    if (!IsPlayer(player))
+        return;
     ShowCaptions(player == 1 ? TurnCaption(1) : Label{}, player == 2 ? TurnCaption(2) : Label{},
                  player);
     ShowMarkers(MarkerPair::First, false);

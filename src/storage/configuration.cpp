@@ -6,6 +6,7 @@
 
 #include "base/random.h"
 #include "core/state/game_state.h"
+#include "display/field.h"
 #include "display/sound.h"
 #include "storage/value_file.h"
 
@@ -14,18 +15,21 @@ namespace {
 constexpr const char* FileName = "QUIBLNK.CFG";
 
 void SetBuiltInValues() {
-    Game.PlayerColor.at(1) = Black;
-    Game.PlayerName.at(1) = "Colossus";
-    Game.PlayerKind.at(1) = ComputerIntelligent;
-    Game.PlayerColor.at(2) = BrightWhite;
-    Game.PlayerName.at(2) = "Guardian";
-    Game.PlayerKind.at(2) = ComputerAverage;
-    Game.BackgroundColor = Black;
-    Game.ComputerGhostColor = LightGreen;
-    Game.GhostColor = LightRed;
-    Game.PointColor = BrightWhite;
-    Game.GridColumns = 10;
-    Game.GridRows = 10;
+    Game.CurrentPlayer = 1;
+    static_cast<PlayerSettings&>(Game) = {
+        .PlayerName = {{"Colossus", "Guardian"}},
+        .PlayerKind = {{ComputerIntelligent, ComputerAverage}},
+        .PlayerColor = {{Black, BrightWhite}},
+    };
+    static_cast<GridSettings&>(Game) = {
+        .GridColumns = 10,
+        .GridRows = 10,
+        .BackgroundColor = Black,
+        .PointColor = BrightWhite,
+        .GhostColor = LightRed,
+        .ComputerGhostColor = LightGreen,
+    };
+    ResetPointSpacing();
     Game.SoundOn = true;
 }
 

@@ -186,8 +186,8 @@ void RunCommand(Command command) {
 }
 
 void Form_Load() {
-    Game.TwipsPerPixelX = ToInteger(std::max<int>(1, RoundToInteger(ScreenTwipsPerPixelX())));
-    Game.TwipsPerPixelY = ToInteger(std::max<int>(1, RoundToInteger(ScreenTwipsPerPixelY())));
+    Game.TwipsPerPixelX = RoundToInteger(ScreenTwipsPerPixelX());
+    Game.TwipsPerPixelY = RoundToInteger(ScreenTwipsPerPixelY());
     SetPictureScale(Game.TwipsPerPixelX, Game.TwipsPerPixelY);
     const double screenPixels = ScreenWidth() / Game.TwipsPerPixelX;
     PlaceMainWindow(screenPixels >= NarrowestCentredScreen ? WindowPlace::Centred
@@ -251,7 +251,7 @@ void mnuDraw_Click() {
 }
 
 void mnuExchange_Click() {
-    if (Game.GameInPlay || !Game.GamePaused || !IsPlayer(Game.CurrentPlayer))
+    if (!IsPlayer(Game.CurrentPlayer))
         return;
     Game.CurrentPlayer = ToInteger(OtherPlayer(Game.CurrentPlayer));
     ShowGamePaused();
@@ -263,10 +263,8 @@ void mnuHint_Click() {
 }
 
 void mnuPause_Click() {
-    if (!Game.GameInPlay)
-        return;
     Game.GamePaused = true;
-    EnterPhase(Phase::PausePending);
+    EnterPhase(Phase::Paused);
 }
 
 void mnuQuit_Click() {

@@ -13,7 +13,7 @@ bool IsTakenOver(const std::string& text) {
     OpenTextForInput(text);
     try {
         return ReadGame();
-    } catch (const std::runtime_error&) {
+    } catch (const std::exception&) {
         return false;
     }
 }

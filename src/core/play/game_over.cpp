@@ -13,9 +13,9 @@ constexpr float BlinkStep = 0.25F; // seconds
 
 // 1 or 2, 0 = draw.
 int Winner() {
-    if (Game.PlayerScore.at(1) == Game.PlayerScore.at(2))
-        return 0;
-    return Game.PlayerScore.at(1) > Game.PlayerScore.at(2) ? 1 : 2;
+    if (Game.PlayerScore.at(1) > Game.PlayerScore.at(2))
+        return 1;
+    return Game.PlayerScore.at(1) < Game.PlayerScore.at(2) ? 2 : 0;
 }
 
 void ShowWinner(int winner) {

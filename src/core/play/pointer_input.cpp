@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "ai/move_selection.h"
 #include "core/play/review.h"
@@ -22,7 +23,7 @@ bool PersonIsAwaited() {
 }
 
 void RestoreComputerLine() {
-    if (Game.ComputerGhostLine <= 0)
+    if (Game.ComputerGhostLine == 0)
         return;
     DrawLine(Game.ComputerGhostLine, Game.PointColor);
     Game.ComputerGhostLine = 0;
@@ -93,8 +94,8 @@ template <class Step>
 void StepGhostLine(Step leadFrom) {
     if (!PersonIsAwaited() || Game.HintMode)
         return;
-    const int last = Game.LastGhostLine > 0 ? Game.LastGhostLine : MiddleLine();
-    const int line = Game.GhostLine > 0 ? leadFrom(Game.GhostLine) : UndrawnLineNear(last);
+    const int last = Game.LastGhostLine != 0 ? Game.LastGhostLine : MiddleLine();
+    const int line = Game.GhostLine != 0 ? leadFrom(Game.GhostLine) : UndrawnLineNear(last);
     if (line == 0)
         return TellNoOtherLine();
     LetPointerRest();
@@ -103,18 +104,18 @@ void StepGhostLine(Step leadFrom) {
 
 // The line that a computer would draw in the person's place.
 int AskComputerForHint() {
+    const auto takeBack = [] {
+        Game.HintMode = false;
+        return std::exchange(Game.ChosenLine, Integer{0});
+    };
     Game.HintMode = true;
     try {
         ChooseComputerMove();
     } catch (...) {
-        Game.HintMode = false;
-        Game.ChosenLine = 0;
+        takeBack();
         throw;
     }
-    Game.HintMode = false;
-    const int hint = Game.ChosenLine;
-    Game.ChosenLine = 0;
-    return hint;
+    return takeBack();
 }
 
 } // namespace
@@ -147,7 +148,7 @@ void TurnGhostLine() {
 }
 
 void RemoveGhostLine() {
-    if (Game.GhostLine <= 0)
+    if (Game.GhostLine == 0)
         return;
     if (Game.Lines.at(Game.GhostLine).Drawn == 0)
         EraseGhostLine(Game.GhostLine);
@@ -155,7 +156,7 @@ void RemoveGhostLine() {
 }
 
 void PressGhostLine() {
-    if (!PersonIsAwaited() || Game.GhostLine <= 0)
+    if (!PersonIsAwaited() || Game.GhostLine == 0)
         return;
     Game.ChosenLine = Game.GhostLine;
     Game.GhostLine = 0;

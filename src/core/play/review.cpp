@@ -16,9 +16,9 @@ namespace {
 std::string EffectInWords(int line) {
     const Prospect prospect = ProspectOf(line);
     std::string effect = "free";
-    if (prospect.Closed > 0)
+    if (prospect.Closed != 0)
         effect = "closes " + BoxesInWords(prospect.Closed);
-    else if (prospect.Given > 0)
+    else if (prospect.Given != 0)
         effect = "gives " + BoxesInWords(prospect.Given) + " away";
     if (prospect.Open == 0)
         return effect;
@@ -41,9 +41,9 @@ std::string OpenBoxesInWords() {
 
 // Where reading the boxes begins: beside the ghost line, or where one was or will be.
 int BoxBesideGhost(Direction direction) {
-    const int line = Game.GhostLine > 0       ? Game.GhostLine
-                     : Game.LastGhostLine > 0 ? Game.LastGhostLine
-                                              : MiddleLine();
+    const int line = Game.GhostLine != 0       ? Game.GhostLine
+                     : Game.LastGhostLine != 0 ? Game.LastGhostLine
+                                               : MiddleLine();
     const auto [first, second] = BoxesBeside(line);
     const bool isForward = direction == Direction::Right || direction == Direction::Down;
     return first == 0 || (isForward && second != 0) ? second : first;
@@ -70,7 +70,7 @@ void TellGhostLine() {
         return;
     Game.Told.GhostLine = Game.GhostLine;
     Game.Told.Box = 0;
-    if (Game.GhostLine > 0)
+    if (Game.GhostLine != 0)
         Say(GhostLineInWords());
 }
 

@@ -37,7 +37,7 @@ void WaitForPerson() {
     while (PersonIsToMove())
         YieldToEvents(Forever);
     Game.MouseDownSeen = true;
-    if (Game.GamePaused && Game.ChosenLine > 0)
+    if (Game.GamePaused && Game.ChosenLine != 0)
         Game.GhostLine = std::exchange(Game.ChosenLine, Integer{0}); // a press that is not played
     RemoveGhostLine();
 }
@@ -125,30 +125,21 @@ LoopEnd PlayTurns() {
 
 void EndLoop(LoopEnd end) {
     Game.GameInPlay = false;
-    switch (end) {
-    case LoopEnd::BoardFull:
+    if (end == LoopEnd::BoardFull) {
         Game.GamePaused = false;
         EnterPhase(Phase::Idle);
         ShowGameOver();
-        break;
-    case LoopEnd::Paused:
+    } else if (end == LoopEnd::Paused) {
         ShowGamePaused();
-        EnterPhase(Phase::Paused);
         TellNews();
-        break;
-    case LoopEnd::Quit:
+    } else if (end == LoopEnd::Quit) {
         AbandonGame();
-        break;
-    case LoopEnd::ProgramEnding:
-        break;
     }
 }
 
 } // namespace
 
 void PlayGame() {
-    if (Game.GameInPlay)
-        return;
     Game.GameInPlay = true;
     Game.MouseDownSeen = true;
     EnterPhase(Phase::ComputerToMove);

@@ -47,7 +47,7 @@ void RecordLine(Integer number) {
 
 // Lets the person who is to reply see which line the computer drew.
 void HighlightComputerLine(Integer line) {
-    if (Game.ComputerGhostLine > 0)
+    if (Game.ComputerGhostLine != 0)
         DrawLine(Game.ComputerGhostLine, Game.PointColor);
     Game.ComputerGhostLine = line;
     DrawLine(line, Game.ComputerGhostColor);
@@ -83,11 +83,10 @@ void ScoreBoxes(int count) {
 void ApplyMove() {
     const Integer number = Game.ChosenLine;
     const Line& line = Game.Lines.at(number);
-    if (number < 1 || line.Drawn != 0)
+    if (number == 0 || line.Drawn != 0)
         throw std::logic_error("a line was to be drawn that is no line or is drawn already");
     if (!IsComputer(Game.CurrentPlayer) && !IsLegalMove())
         return;
-    Game.GhostLine = 0;
     RecordLine(number);
     int completed = 0;
     for (const Integer box : BoxesBeside(number))

@@ -3,10 +3,6 @@
 GameState Game;
 
 void ForgetLines() {
-    Game.ComputerGhostLine = 0;
-    Game.GhostLine = 0;
-    Game.LastGhostLine = 0;
-    Game.ChosenLine = 0;
+    static_cast<LinesOfTurn&>(Game) = {};
     Game.LastLine = 0;
-    Game.Told = {};
 }

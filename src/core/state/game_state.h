@@ -128,14 +128,20 @@ struct Board {
     bool operator==(const Board&) const = default;
 };
 
-// This turn: what is shown, told and chosen in it.
-struct Turn {
+// This turn: the lines that are shown, told and chosen in it ...
+struct LinesOfTurn {
     Integer ComputerGhostLine = 0; // shown in ComputerGhostColor, 0 = none
     Integer GhostLine = 0;         // shown as preview or hint, 0 = none
     Integer LastGhostLine = 0;     // shown last, where the keys go on; 0 = none yet
     ToldNews Told;
 
-    Integer ChosenLine = 0;    // 0 = no move yet
+    Integer ChosenLine = 0; // 0 = no move yet
+
+    bool operator==(const LinesOfTurn&) const = default;
+};
+
+// ... and who is asked for them.
+struct Turn : LinesOfTurn {
     bool MouseDownSeen = true; // false only while a person's press would be taken as the move
     bool HintMode = false;     // the computer's chooser is working for a person's hint
     float PointerX = -1;       // where the pointer was when a line was shown last, in twips

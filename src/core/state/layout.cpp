@@ -8,8 +8,8 @@ bool CountsMatchField() {
     const int columns = FieldColumns();
     const int rows = FieldRows();
     // The first comparisons keep the products below within an int.
-    return columns > 0 && columns <= Game.BoxCount && rows > 0 && rows <= Game.BoxCount &&
-           Game.BoxCount == columns * rows && Game.HorizontalLineCount == columns * (rows + 1) &&
+    return rows > 0 && rows <= Game.BoxCount && Game.BoxCount == columns * rows &&
+           Game.HorizontalLineCount == columns * (rows + 1) &&
            Game.LineCount == Game.HorizontalLineCount + (columns + 1) * rows &&
            Game.Boxes.size() == static_cast<std::size_t>(Game.BoxCount) + 1 &&
            Game.Lines.size() == static_cast<std::size_t>(Game.LineCount) + 1;

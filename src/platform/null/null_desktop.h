@@ -31,7 +31,7 @@ struct NullDesktop {
     int PictureWidth = 8400; // twips
     int PictureHeight = 6300;
     double Clock = 36000;       // seconds since midnight
-    double ScreenWidth = 19200; // twips
+    double ScreenWidth = 15360; // twips; 1024 pixels
     PointerPlace Pointer{-1, -1};
 
     std::deque<MessageAnswer> Answers; // a box that finds none fails the test

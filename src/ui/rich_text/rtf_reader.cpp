@@ -74,8 +74,10 @@ public:
     RichText Read(std::string_view rtf);
 
 private:
+    void Take(const RtfToken& token);
     void OpenGroup();
     void CloseGroup();
+    void TakeContent(const RtfToken& token);
     void TakeWord(const RtfToken& word);
     void TakeSymbol(const RtfToken& symbol);
     void TakeText(std::string_view text);
@@ -105,31 +107,33 @@ RichText Reader::Read(std::string_view rtf) {
     RtfTokens tokens(rtf);
     do {
         const RtfToken token = tokens.Next();
-        switch (token.What) {
-        case RtfToken::Kind::End:
+        if (token.What == RtfToken::Kind::End)
             return {}; // the document breaks off
-        case RtfToken::Kind::GroupStart:
-            OpenGroup();
-            break;
-        case RtfToken::Kind::GroupEnd:
-            CloseGroup();
-            break;
-        case RtfToken::Kind::Word:
-            TakeWord(token);
-            break;
-        case RtfToken::Kind::Symbol:
-            TakeSymbol(token);
-            break;
-        case RtfToken::Kind::HexByte:
-            if (!IsFallback())
-                Add(FromWindows1252(static_cast<char>(token.Number)));
-            break;
-        case RtfToken::Kind::Text:
-            TakeText(token.Text);
-            break;
-        }
+        Take(token);
     } while (!Groups.empty());
     return Builder.Finish();
+}
+
+void Reader::Take(const RtfToken& token) {
+    if (token.What == RtfToken::Kind::GroupStart)
+        OpenGroup();
+    else if (token.What == RtfToken::Kind::GroupEnd)
+        CloseGroup();
+    else if (DeeperGroups == 0)
+        TakeContent(token);
+}
+
+void Reader::TakeContent(const RtfToken& token) {
+    if (token.What == RtfToken::Kind::Text)
+        TakeText(token.Text);
+    else if (IsFallback())
+        return;
+    else if (token.What == RtfToken::Kind::Word)
+        TakeWord(token);
+    else if (token.What == RtfToken::Kind::Symbol)
+        TakeSymbol(token);
+    else
+        Add(FromWindows1252(static_cast<char>(token.Number)));
 }
 
 void Reader::OpenGroup() {
@@ -144,7 +148,7 @@ void Reader::OpenGroup() {
 
 void Reader::CloseGroup() {
     FallbackLeft = 0;
-    if (DeeperGroups > 0)
+    if (DeeperGroups != 0)
         --DeeperGroups;
     else
         Groups.pop_back();
@@ -160,7 +164,7 @@ bool Reader::IsFallback() {
 
 void Reader::Add(char32_t character) {
     const Group& group = Groups.back();
-    if (DeeperGroups > 0 || group.Into != Destination::Text)
+    if (group.Into != Destination::Text)
         return;
     if (Builder.ParagraphIsFull())
         Builder.EndParagraph(group.Paragraph, group.IsInTable);
@@ -168,7 +172,7 @@ void Reader::Add(char32_t character) {
 }
 
 void Reader::TakeText(std::string_view text) {
-    if (Groups.back().Into == Destination::Colors && DeeperGroups == 0)
+    if (Groups.back().Into == Destination::Colors)
         EndColors(text);
     for (const char c : text)
         if (!IsFallback())
@@ -176,8 +180,6 @@ void Reader::TakeText(std::string_view text) {
 }
 
 void Reader::TakeSymbol(const RtfToken& symbol) {
-    if (DeeperGroups > 0 || IsFallback())
-        return;
     const auto character = SymbolCharacters.find(symbol.Text);
     if (symbol.Text == "*")
         Skip();
@@ -188,7 +190,7 @@ void Reader::TakeSymbol(const RtfToken& symbol) {
 }
 
 void Reader::TakeWord(const RtfToken& word) {
-    if (DeeperGroups > 0 || IsFallback() || Groups.back().Into == Destination::Skipped)
+    if (Groups.back().Into == Destination::Skipped)
         return;
     if (Groups.back().Into == Destination::Colors)
         return TakeColorWord(word);

@@ -1,6 +1,8 @@
 #include "ui/rich_text/rtf_tokens.h"
 
 #include <algorithm>
+#include <charconv>
+#include <cstdint>
 
 namespace {
 
@@ -13,16 +15,6 @@ bool IsLetter(char c) {
 
 bool IsDigit(char c) {
     return c >= '0' && c <= '9';
-}
-
-int HexDigit(char c) {
-    if (IsDigit(c))
-        return c - '0';
-    if (c >= 'a' && c <= 'f')
-        return c - 'a' + 10;
-    if (c >= 'A' && c <= 'F')
-        return c - 'A' + 10;
-    return -1;
 }
 
 } // namespace
@@ -84,12 +76,9 @@ void RtfTokens::TakeNumber(RtfToken& word) {
 }
 
 RtfToken RtfTokens::TakeHexByte() {
-    const int high = Rest.size() < 2 ? -1 : HexDigit(Rest.at(0));
-    const int low = Rest.size() < 2 ? -1 : HexDigit(Rest.at(1));
-    if (high < 0 || low < 0)
+    std::uint8_t byte = 0;
+    const char* const end = Rest.data() + std::min<std::size_t>(Rest.size(), 2);
+    if (std::from_chars(Rest.data(), end, byte, 16).ptr != end)
         return {.What = RtfToken::Kind::Symbol, .Text = "'"};
-    return {.What = RtfToken::Kind::HexByte,
-            .Text = Take(2),
-            .HasNumber = true,
-            .Number = high * 16 + low};
+    return {.What = RtfToken::Kind::HexByte, .Text = Take(2), .Number = byte};
 }
