@@ -52,6 +52,7 @@ void LetPersonsPlay(std::uint32_t seed) {
             throw std::logic_error("the game takes no line of a person");
         TheNullDesktop.Answers.assign(9, MessageAnswer::Yes);
         RunGuarded([] { RunCommand(Command::Hint); });
+        picPlayingField_KeyDown(static_cast<FieldKey>(chance() % FieldKeyCount));
         const std::vector<int> lines = UndrawnLines();
         if (!lines.empty())
             PressLine(lines.at(chance() % lines.size()));

@@ -19,6 +19,6 @@ void PressLine(int line);
 
 std::vector<int> UndrawnLines();
 
-// From now on persons ask for a hint and draw a random line whenever the game waits for them, and
-// say Yes to every box.
+// From now on persons ask for a hint, press a key and draw a random line whenever the game waits
+// for them, and say Yes to every box.
 void LetPersonsPlay(std::uint32_t seed);
