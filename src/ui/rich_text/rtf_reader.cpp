@@ -125,10 +125,10 @@ void Reader::Take(const RtfToken& token) {
 
 void Reader::TakeContent(const RtfToken& token) {
     if (token.What == RtfToken::Kind::Text)
-        TakeText(token.Text);
-    else if (IsFallback())
+        return TakeText(token.Text);
+    if (IsFallback())
         return;
-    else if (token.What == RtfToken::Kind::Word)
+    if (token.What == RtfToken::Kind::Word)
         TakeWord(token);
     else if (token.What == RtfToken::Kind::Symbol)
         TakeSymbol(token);
