@@ -70,6 +70,10 @@ TEST_F(Pointer, ShowsAHintUntilItMovesAndTakesOnePressOnly) {
         picPlayingField_MouseMove(Game.PointerX, Game.PointerY);
         EXPECT_EQ(Game.GhostLine, 15) << "the box that can be taken; the pointer did not move";
     }
+    Game.HintMode = true; // while the next is chosen
+    PointAt(1);
+    EXPECT_EQ(Game.GhostLine, 15);
+    Game.HintMode = false;
     MoveTo(12, 12);
     PressHere();
     EXPECT_EQ(Game.GhostLine + Game.ChosenLine, 0) << "nothing is previewed";

@@ -135,7 +135,6 @@ TEST_F(SavedGame, InWhichItIsNobodysTurnGivesWayToAnyOther) {
         EXPECT_TRUE(Game.GamePaused && IsEnabled(Command::Open));
         Game.GridColumns = 2;
         LetPersonsPlay(1);
-        RunCommand(Command::Exchange);
         RunCommand(command);
         EXPECT_EQ(Game.BoxCount, command == Command::Auto || command == Command::Draw ? 2 : 1);
         EXPECT_EQ(Game.ProgramEnding, command == Command::Exit) << "or it is asked about";

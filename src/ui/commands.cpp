@@ -251,8 +251,6 @@ void mnuDraw_Click() {
 }
 
 void mnuExchange_Click() {
-    if (!IsPlayer(Game.CurrentPlayer))
-        return;
     Game.CurrentPlayer = ToInteger(OtherPlayer(Game.CurrentPlayer));
     ShowGamePaused();
     TellNews();
@@ -268,8 +266,6 @@ void mnuPause_Click() {
 }
 
 void mnuQuit_Click() {
-    if (!IsGameUnderWay())
-        return;
     const bool isSure =
         Confirms("Are you sure you want to quit the current game?", "Quit the Game");
     Game.QuitRequested = isSure && IsGameUnderWay(); // which may have failed under the question
