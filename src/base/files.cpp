@@ -194,8 +194,7 @@ void FileReplacement::Write(const std::string& text) {
         WriteToDisk(New, text);
         if (rename(NewName.c_str(), Name.c_str()) == 0) {
             NewName.clear();
-            SyncDirectoryOf(Name);
-            return;
+            return SyncDirectoryOf(Name);
         }
     }
     if (Old.IsOpen())
