@@ -10,7 +10,8 @@ const std::string File = "QUIBLNK.CFG";
 class Configuration : public GameTest {};
 
 TEST_F(Configuration, IsTakenWholeOrNotAtAllAndWrittenByExitAloneAfterAChange) {
-    EXPECT_TRUE(StateOf(Command::Sound).Checked && Game.CurrentPlayer == 1); // without a file
+    EXPECT_TRUE(StateOf(Command::Sound).Checked && Game.CurrentPlayer == 1);
+    EXPECT_EQ(Game.PointSpacingX, 375);
     const GameState builtIn = Game;
     PutBytes(File, "1,2,3,4,5,6,7,a,1,8,b,2,"); // all but the last value
     StartFresh();

@@ -71,9 +71,8 @@ TEST_F(Pointer, ShowsAHintUntilItMovesAndTakesOnePressOnly) {
         EXPECT_EQ(Game.GhostLine, 15) << "the box that can be taken; the pointer did not move";
     }
     Game.HintMode = true; // while the next is chosen
-    PointAt(1);
-    EXPECT_EQ(Game.GhostLine, 15);
-    Game.HintMode = false;
+    PointAt(2);
+    EXPECT_TRUE(std::exchange(Game.HintMode, false) && Game.GhostLine == 15);
     MoveTo(12, 12);
     PressHere();
     EXPECT_EQ(Game.GhostLine + Game.ChosenLine, 0) << "nothing is previewed";
