@@ -27,21 +27,16 @@ std::vector<int> JudgeRows() {
     return margins;
 }
 
-// Puts the best rows first and returns how many are equally good.
-int OrderBestFirst(const std::vector<int>& margins) {
-    const int best = *std::ranges::max_element(margins);
-    int ties = 0;
-    for (int row = 1; row <= Work.RiskyLines.Count(); ++row)
-        if (margins.at(row - 1) >= best - GiveawaySearch::SameAs)
-            std::swap(Work.RiskyLines.at(++ties), Work.RiskyLines.at(row));
-    return ties;
-}
-
 } // namespace
 
 void ChooseSacrificeDeep() {
     if (!Game.HintMode)
         Delay(0.5F);
-    const int ties = OrderBestFirst(JudgeRows());
-    GiveAwayLine(Work.RiskyLines.at(RandomPick(ties)).Line);
+    const std::vector<int> margins = JudgeRows();
+    const int best = *std::ranges::max_element(margins);
+    std::vector<Integer> lines; // those of the best rows
+    for (int row = 1; row <= Work.RiskyLines.Count(); ++row)
+        if (margins.at(row - 1) >= best - GiveawaySearch::SameAs)
+            lines.push_back(Work.RiskyLines.at(row).Line);
+    GiveAwayLine(lines.at(RandomPick(static_cast<int>(lines.size())) - 1));
 }

@@ -3,11 +3,11 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <limits>
 #include <numeric>
 #include <span>
 #include <tuple>
-#include <utility>
 
 #include "core/state/game_state.h"
 #include "platform/desktop.h"
@@ -15,9 +15,8 @@
 namespace {
 
 constexpr int FirstRound = 4;
-constexpr int RunsOfWideRounds = 12; // left out of those that a round follows everything of
+constexpr int RunsOfWideRounds = 16; // left out of those that a round follows everything of
 constexpr std::size_t CheapestFollowed = 2;
-constexpr std::size_t CheapestFollowedWithDeclining = 3; // of a cheat and of a person
 
 constexpr long ChoicesPerStep = 16;    // to look through
 constexpr long RunsEnteredPerStep = 4; // into the catalogue
@@ -64,31 +63,38 @@ std::vector<int> GiveawaySearch::Judge(const std::vector<Run>& runs,
     Values.Clear(Left.Runs);
 
     const LoneRuns smallest = SmallestLoneRuns();
-    std::vector<int> margins; // before the first round, what is given at once
+    std::vector<std::vector<int>> told; // the margins by each round, the last one first
     for (const int candidate : candidates)
-        margins.push_back(-Box * places.at(candidate).Given().Boxes);
-    std::vector<int> marginsBefore;
+        told.push_back({-Box * places.at(candidate).Given().Boxes});
     std::vector<int> order(candidates.size());
     std::iota(order.begin(), order.end(), 0);
+    bool isExact = false;
     try {
-        bool isExact = false;
         for (Round = FirstRound; !isExact; ++Round) {
             isExact = Round >= Left.Runs - 1; // all behind the first giveaway
-            std::ranges::stable_sort(order, {}, [&](int i) { return -margins.at(i); });
-            marginsBefore = std::exchange(margins, std::vector(candidates.size(), Unjudged));
+            std::ranges::stable_sort(order, std::greater(), [&](int i) { return told.at(i); });
+            for (std::vector<int>& margins : told)
+                margins.insert(margins.begin(), Unjudged);
             Turn turn;
             for (const int i : order) {
                 const RunPlace place = places.at(candidates.at(i));
                 if (!isExact && IsDominated(place, smallest))
                     continue;
-                margins.at(i) = ValueOfGiveaway(turn, place);
-                turn.Low = std::max(turn.Low, margins.at(i) - SameAs - 1);
+                const int margin = told.at(i).front() = ValueOfGiveaway(turn, place);
+                turn.Low = std::max(turn.Low, margin - SameAs - 1);
             }
         }
     } catch (const Interruption&) {
-        if (margins.at(order.front()) == Unjudged)
-            return marginsBefore;
+        isExact = false;
+        if (told.at(order.front()).front() == Unjudged)
+            for (std::vector<int>& margins : told)
+                margins.erase(margins.begin());
     }
+    const std::vector<int> best = *std::ranges::max_element(told);
+    const int almostBest = best.front() - SameAs - 1;
+    std::vector<int> margins;
+    for (const std::vector<int>& own : told)
+        margins.push_back(isExact || own == best ? own.front() : std::min(own.front(), almostBest));
     return margins;
 }
 
@@ -152,10 +158,7 @@ void GiveawaySearch::FollowChoices(const Turn& turn) {
 std::size_t GiveawaySearch::MostFollowed(const Turn& turn) const {
     if (turn.FollowsAll)
         return MostChoices;
-    if (AllRuns - Round > RunsOfWideRounds || KindOf(turn).GivesLeast)
-        return 1;
-    const bool mayDecline = KindOf(turn).Declines || !KindOf(turn).IsComputer;
-    return mayDecline ? CheapestFollowedWithDeclining : CheapestFollowed;
+    return AllRuns - Round > RunsOfWideRounds || KindOf(turn).GivesLeast ? 1 : CheapestFollowed;
 }
 
 // By manner.
@@ -184,16 +187,16 @@ int GiveawaySearch::MannerOf(const Run& run) const {
 }
 
 // What a choice seems to cost. Every run that goes with the one opened, and forces nobody any more,
-// is worth two boxes, and one where a person might decline; to a cheat what it leaves is worth
-// more. An average player does not think of it.
+// is worth two boxes. To a cheat what he will decline goes first, and no more runs than need be. An
+// average player does not think of it.
 int GiveawaySearch::CostOf(const Turn& turn, RunPlace place) const {
     const Giveaway& given = place.Given();
-    const KindTraits& taker = OpponentKindOf(turn);
     if (KindOf(turn).GivesLeast)
         return given.Boxes;
-    if (!taker.Declines)
-        return given.Boxes - (KindOf(turn).Declines && !taker.IsComputer ? 1 : 2) * given.Joined;
-    return given.Boxes - (given.Boxes > 2 ? 2 * BoxesDeclined(place.Opened()) : 0);
+    if (!OpponentKindOf(turn).Declines)
+        return given.Boxes - 2 * given.Joined;
+    const bool isDeclined = given.Boxes > (KindOf(turn).IsComputer ? 2 : 1);
+    return given.Boxes + given.Joined - (isDeclined ? 5 * BoxesDeclined(place.Opened()) : 0);
 }
 
 // The row of a run, with the line in it as its player draws it.

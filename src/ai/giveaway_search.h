@@ -52,7 +52,8 @@ public:
 
     // The margin still to come for each of the `candidates`, positions in `runs`, when its row is
     // the choice, by the last round begun: exact if none is left and no other row is better, else
-    // no less than it is. It judges the best first; what the steps end before is `Unjudged`.
+    // no less than it is. Which of the best rows is best, if a round that is not exact cannot tell,
+    // the rounds before it do. It judges the best first; what the steps end before is `Unjudged`.
     // Yields; once the game is to end margins mean little.
     std::vector<int> Judge(const std::vector<Run>& runs, const std::vector<int>& candidates);
 
