@@ -31,6 +31,7 @@ void SetBuiltInValues() {
     };
     ResetPointSpacing();
     Game.SoundOn = true;
+    Game.SettingsChanged = true;
 }
 
 // The values in the order of the file; `visit` reads or writes each of them.
