@@ -80,7 +80,7 @@ void RemoveIfLeftBehind(const std::string& name) {
 
 void KeepModeAndOwner(const OpenFile& from, const OpenFile& to) {
     const struct stat status = StatusOf(from);
-    (void)!fchown(to.Descriptor, StatusOf(to).st_uid, status.st_gid); // which more may do
+    (void)!fchown(to.Descriptor, StatusOf(to).st_uid, status.st_gid); // the group, as more may
     (void)!fchown(to.Descriptor, status.st_uid, status.st_gid);
     (void)fchmod(to.Descriptor, status.st_mode & 07777);
 }
@@ -158,7 +158,7 @@ std::optional<std::string> ReadRegularFile(const std::string& name, std::size_t 
 
 FileReplacement::FileReplacement(const std::string& name)
     : Name(FollowLinks(name)), Old(OpenRegular(Name, O_WRONLY)) {
-    if (IsForbiddenLink(name) || (!Old.IsOpen() && IsThere(Name)))
+    if (Name.empty() || IsForbiddenLink(name) || (!Old.IsOpen() && IsThere(Name)))
         throw std::runtime_error("a file may not be written");
     CreateNew();
     if (!Old.IsOpen() && !New.IsOpen())
@@ -197,6 +197,7 @@ void FileReplacement::Write(const std::string& text) {
             return SyncDirectoryOf(Name);
         }
     }
-    if (Old.IsOpen())
-        WriteOver(Old, text);
+    if (!Old.IsOpen())
+        throw std::runtime_error("a file cannot be given its name");
+    WriteOver(Old, text);
 }

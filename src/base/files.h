@@ -41,8 +41,8 @@ public:
     FileReplacement(const FileReplacement&) = delete;
     FileReplacement& operator=(const FileReplacement&) = delete;
 
-    // Called once. Throws std::runtime_error when the disk fails or is full. Nothing comes of a
-    // name that no file can have.
+    // Called once. Throws std::runtime_error when the disk fails or is full, or when the name is
+    // taken meanwhile by what is no file.
     void Write(const std::string& text);
 
 private:

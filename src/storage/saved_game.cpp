@@ -91,6 +91,11 @@ void ReadTable(std::vector<Row>& table) {
     table.at(0) = Row{};
 }
 
+void RequireRows(Integer count) {
+    if (count < 0)
+        throw std::runtime_error("a table cannot have so few rows");
+}
+
 void ShowLoadedGame() {
     RedrawField();
     ShowPlayerStatus(1);
@@ -174,9 +179,11 @@ bool ReadGame() {
     Game.GridRows = grid.Rows;
     VisitPlayersAndEdges(Read);
     Read(Game.BoxCount);
+    RequireRows(Game.BoxCount);
     SizeBoxTables();
     ReadTable(Game.Boxes);
     VisitLineCounts(Read);
+    RequireRows(Game.LineCount);
     std::vector<Line> lines(static_cast<std::size_t>(Game.LineCount) + 1);
     ReadTable(lines);
     SizeLineTables();

@@ -13,7 +13,7 @@ bool IsTakenOver(const std::string& text) {
     OpenTextForInput(text);
     try {
         return ReadGame();
-    } catch (const std::exception&) {
+    } catch (const std::runtime_error&) {
         return false;
     }
 }

@@ -102,9 +102,9 @@ struct Surroundings {
 
 // This game: the field, who scored what in it and who is to move.
 struct Board {
-    // Where the field lies on the picture, in twips.
-    Integer PointSpacingX = 1; // never less
-    Integer PointSpacingY = 1; //
+    // Where the field lies on the picture, in twips. The spacing is never 0.
+    Integer PointSpacingX = 1;
+    Integer PointSpacingY = 1;
     Integer FieldLeft = 0;
     Integer FieldRight = 0;
     Integer FieldTop = 0;

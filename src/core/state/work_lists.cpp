@@ -5,8 +5,8 @@
 WorkLists Work;
 
 void SizeBoxTables() {
-    Work.ChainBoxes.Resize(Game.BoxCount); // or throws what a negative number deserves
     Game.Boxes.assign(static_cast<std::size_t>(Game.BoxCount) + 1, Box{});
+    Work.ChainBoxes.Resize(Game.BoxCount);
 }
 
 void SizeLineTables() {
