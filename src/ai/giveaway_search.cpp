@@ -70,7 +70,7 @@ std::vector<int> GiveawaySearch::Judge(const std::vector<Run>& runs,
     std::iota(order.begin(), order.end(), 0);
     bool isExact = false;
     try {
-        for (Round = FirstRound; !isExact; ++Round) {
+        for (Round = FirstRound; !isExact; Round += Kinds[1].GivesLeast ? 2 : 1) {
             isExact = Round >= Left.Runs - 1; // all behind the first giveaway
             std::ranges::stable_sort(order, std::greater(), [&](int i) { return told.at(i); });
             for (std::vector<int>& margins : told)
@@ -156,9 +156,10 @@ void GiveawaySearch::FollowChoices(const Turn& turn) {
 }
 
 std::size_t GiveawaySearch::MostFollowed(const Turn& turn) const {
-    if (turn.FollowsAll)
+    const bool isWide = AllRuns - Round <= RunsOfWideRounds;
+    if (turn.FollowsAll || (isWide && KindOf(turn).GivesLeast))
         return MostChoices;
-    return AllRuns - Round > RunsOfWideRounds || KindOf(turn).GivesLeast ? 1 : CheapestFollowed;
+    return isWide ? CheapestFollowed : 1;
 }
 
 // By manner.

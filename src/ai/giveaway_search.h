@@ -34,7 +34,8 @@ struct Choice {
 };
 
 // Judges in rounds. Round n follows everything once n runs or fewer are left, and before that only
-// the cheapest choices. What it has judged exactly serves the rounds behind it.
+// the cheapest choices: one, in wide rounds two, and all that an average player may make, for which
+// every second round is left out. What it has judged exactly serves the rounds behind it.
 class GiveawaySearch {
 public:
     // A step is a position set up, about half a microsecond. Runs to look through and to enter into

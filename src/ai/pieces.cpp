@@ -122,12 +122,10 @@ std::vector<Giveaway> FindGiveaways(const std::vector<Run>& runs) {
     std::vector<int> ways(JointNumbers(runs), 0);
     for (const Run& run : runs)
         for (const int end : run.Ends)
-            if (end > 0)
-                ++ways.at(end);
+            ++ways.at(std::max(end, Run::NoJoint));
     std::vector<Giveaway> giveaways;
     for (const Run& run : runs) {
-        Giveaway& given = giveaways.emplace_back();
-        given.Boxes = ToInteger(run.Boxes);
+        Giveaway& given = giveaways.emplace_back(Giveaway{.Boxes = ToInteger(run.Boxes)});
         for (const int end : run.Ends)
             if (end > 0 && ways.at(end) == 3)
                 Increase(given.Joined, 1);
